@@ -1,0 +1,265 @@
+#include "standin/dictionary_reader.h"
+
+#include "host/missing_value.h"
+#include "standin/input_error.h"
+#include "standin/number_reader.h"
+#include "standin/text.h"
+#include "standin/utf8.h"
+
+#include <rapidjson/document.h>
+#include <rapidjson/error/en.h>
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <functional>
+#include <map>
+#include <optional>
+#include <set>
+#include <utility>
+#include <vector>
+
+namespace standin {
+
+namespace {
+
+using QUVO_Variable_Enumerations::MeasurementLevel;
+using rapidjson::Value;
+
+/// What the dictionary says of one variable.
+struct Entry {
+    std::size_t position = 0;  ///< of the variable in the data set
+    std::optional<std::string> label;
+    std::optional<MeasurementLevel> level;
+    std::optional<std::map<double, std::string>> valueLabels;
+    std::vector<double> missingCodes;
+};
+
+/// What a message is about, and where that stands.
+struct Place {
+    std::size_t offset;
+    std::string subject;
+};
+
+struct LevelName {
+    std::string_view name;
+    MeasurementLevel level;
+};
+
+constexpr std::array<LevelName, 3> levelNames{{{"scale", QUVO_Variable_Enumerations::LevelScale},
+                                               {"nominal", QUVO_Variable_Enumerations::LevelNominal},
+                                               {"ordinal", QUVO_Variable_Enumerations::LevelOrdinal}}};
+
+std::string_view textOf(const Value& text)
+{
+    return {text.GetString(), text.GetStringLength()};
+}
+
+/// Turns the text into entries, checked against the data set.
+class DictionaryReader {
+public:
+    DictionaryReader(const DataSet& dataSet, std::string_view text, const std::string& fileName)
+        : dataSet_(dataSet)
+        , text_(requireUtf8(text, fileName))
+        , fileName_(fileName)
+        , buffer_(text_)
+    {
+    }
+
+    std::vector<Entry> read();
+
+private:
+    void parse();
+    std::vector<Entry> readVariables(const Place& place, const Value& object) const;
+    Entry readEntry(std::string_view name, std::size_t offset, const Value& object) const;
+    void readMember(Entry& entry, std::string_view member, const Place& place, const Value& value) const;
+    MeasurementLevel readLevel(const Place& place, const Value& value) const;
+    std::map<double, std::string> readValueLabels(const Place& place, const Value& object) const;
+    std::vector<double> readMissingCodes(const Place& place, const Value& list) const;
+    std::string readText(const Place& place, const Value& value) const;
+
+    /// Calls `use(name, offset, value)` for each member; the names are valid texts and differ.
+    template <typename Use>
+    void forEachMember(const Place& place, const Value& object, Use use) const;
+
+    [[noreturn]] void fail(const Place& place, const std::string& reason) const;
+
+    const DataSet& dataSet_;
+    std::string_view text_;
+    const std::string& fileName_;
+    std::string buffer_;  ///< parsed in place: the texts of `document_` lie in it, where they stand in `text_`
+    rapidjson::Document document_;
+};
+
+std::vector<Entry> DictionaryReader::read()
+{
+    parse();
+    std::vector<Entry> entries;
+    forEachMember({0, "the dictionary"}, document_, [&](std::string_view name, std::size_t offset, const Value& value) {
+        const Place place{offset, inQuotes(name)};
+        if (name != "variables") {
+            fail(place, R"(is no member of a dictionary; its only one is "variables")");
+        }
+        entries = readVariables(place, value);
+    });
+    return entries;
+}
+
+// Without recursion, so that no depth of nesting exhausts the stack, and in full precision, so that a missing code
+// equals the cell that spells the same number.
+void DictionaryReader::parse()
+{
+    constexpr unsigned flags = rapidjson::kParseIterativeFlag | rapidjson::kParseFullPrecisionFlag;
+    document_.ParseInsitu<flags>(buffer_.data());
+    if (document_.HasParseError()) {
+        std::string reason = rapidjson::GetParseError_En(document_.GetParseError());
+        reason.erase(reason.find_last_not_of('.') + 1);
+        fail({document_.GetErrorOffset(), "this"}, "cannot be read as JSON: " + reason);
+    }
+}
+
+std::vector<Entry> DictionaryReader::readVariables(const Place& place, const Value& object) const
+{
+    std::vector<Entry> entries;
+    forEachMember(place, object, [&](std::string_view name, std::size_t offset, const Value& value) {
+        entries.push_back(readEntry(name, offset, value));
+    });
+    return entries;
+}
+
+Entry DictionaryReader::readEntry(std::string_view name, std::size_t offset, const Value& object) const
+{
+    const Place place{offset, "variable " + inQuotes(name)};
+    const auto position = dataSet_.find(name);
+    if (!position) {
+        fail(place, "is not in the data");
+    }
+    Entry entry;
+    entry.position = *position;
+    forEachMember(place, object, [&](std::string_view member, std::size_t memberOffset, const Value& value) {
+        readMember(entry, member, {memberOffset, inQuotes(member) + " of " + place.subject}, value);
+    });
+    return entry;
+}
+
+void DictionaryReader::readMember(Entry& entry, std::string_view member, const Place& place, const Value& value) const
+{
+    if (member == "label") {
+        entry.label = readText(place, value);
+    } else if (member == "level") {
+        entry.level = readLevel(place, value);
+    } else if (member == "valueLabels") {
+        entry.valueLabels = readValueLabels(place, value);
+    } else if (member == "missing") {
+        entry.missingCodes = readMissingCodes(place, value);
+    } else {
+        fail(place, R"(is unknown; a variable may have "label", "level", "valueLabels" and "missing")");
+    }
+}
+
+MeasurementLevel DictionaryReader::readLevel(const Place& place, const Value& value) const
+{
+    const std::string name = readText(place, value);
+    const auto* const found = std::ranges::find(levelNames, name, &LevelName::name);
+    if (found == levelNames.end()) {
+        fail(place, R"(must be "scale", "nominal" or "ordinal", not )" + inQuotes(name));
+    }
+    return found->level;
+}
+
+std::map<double, std::string> DictionaryReader::readValueLabels(const Place& place, const Value& object) const
+{
+    std::map<double, std::string> labels;
+    forEachMember(place, object, [&](std::string_view name, std::size_t offset, const Value& value) {
+        const Place label{offset, inQuotes(name) + " in " + place.subject};
+        const auto number = readNumber(name);
+        if (!number) {
+            fail(label, R"(is no number; a label is given as "NUMBER": "TEXT")");
+        }
+        if (!labels.emplace(*number, readText(label, value)).second) {
+            fail(label, "labels a number that has a label already");
+        }
+    });
+    return labels;
+}
+
+std::vector<double> DictionaryReader::readMissingCodes(const Place& place, const Value& list) const
+{
+    const auto isNumber = [](const Value& code) { return code.IsNumber(); };
+    if (!list.IsArray() || !std::all_of(list.Begin(), list.End(), isNumber)) {
+        fail(place, "must be a list of numbers, as in [-9, 99]");
+    }
+    std::vector<double> codes;
+    for (const Value& code : list.GetArray()) {
+        codes.push_back(code.GetDouble());
+    }
+    return codes;
+}
+
+// JSON can escape what no text may hold, a zero character or half a surrogate pair.
+std::string DictionaryReader::readText(const Place& place, const Value& value) const
+{
+    if (!value.IsString()) {
+        fail(place, "must be a text in quotes");
+    }
+    if (firstBadUtf8Byte(textOf(value))) {
+        fail(place, "holds an escaped zero or half a surrogate pair");
+    }
+    return std::string(textOf(value));
+}
+
+template <typename Use>
+void DictionaryReader::forEachMember(const Place& place, const Value& object, Use use) const
+{
+    if (!object.IsObject()) {
+        fail(place, "must be an object, in braces");
+    }
+    std::set<std::string, std::less<>> names;
+    for (const auto& member : object.GetObject()) {
+        const auto offset = static_cast<std::size_t>(member.name.GetString() - buffer_.data());
+        const auto [name, isNew] = names.insert(readText({offset, "a name in " + place.subject}, member.name));
+        if (!isNew) {
+            fail({offset, inQuotes(*name)}, "stands twice in " + place.subject);
+        }
+        use(*name, offset, member.value);
+    }
+}
+
+void DictionaryReader::fail(const Place& place, const std::string& reason) const
+{
+    const std::size_t line = countLineEnds(text_.substr(0, place.offset)) + 1;
+    throw InputError(fileName_, line, place.subject + " " + reason);
+}
+
+void replaceMissingCodes(std::vector<double>& values, const std::vector<double>& codes)
+{
+    for (const double code : codes) {
+        std::ranges::replace(values, code, systemMissingValue);
+    }
+}
+
+void apply(Variable& variable, Entry& entry)
+{
+    if (entry.label) {
+        variable.label = std::move(*entry.label);
+    }
+    variable.level = entry.level.value_or(variable.level);
+    if (variable.firstText) {
+        return;
+    }
+    if (entry.valueLabels) {
+        variable.valueLabels = std::move(*entry.valueLabels);
+    }
+    replaceMissingCodes(variable.values, entry.missingCodes);
+}
+
+}  // namespace
+
+void applyDictionary(DataSet& dataSet, std::string_view text, const std::string& fileName)
+{
+    for (Entry& entry : DictionaryReader(dataSet, text, fileName).read()) {
+        apply(dataSet.variables[entry.position], entry);
+    }
+}
+
+}  // namespace standin
