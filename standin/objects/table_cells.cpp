@@ -1,0 +1,195 @@
+// The parts of a pivot table: cells, header groups, the dimension and the body.
+#include "standin/host_call.h"
+#include "standin/objects/output_data.h"
+
+#include <set>
+#include <utility>
+
+using standin::HostCall;
+
+namespace {
+
+/// Requires a cell that a host object is about to take over to be alive and nobody's.
+void requireFree(const HostCall& call, const Cell* cell, const char* what)
+{
+    call.requireAlive(cell, what);
+    call.require(!cell->data->added, std::string(what) + " was added before");
+}
+
+/// A cell that a host object has taken over is no longer the module's to delete.
+void refuseToLose(const HostCall& call, const Cell::Data& cell)
+{
+    if (cell.added && call.isFromGuest()) {
+        call.noteBreach("the module deleted what a host object owns");
+    }
+}
+
+/// Deletes what this host object owns, unless the module has done so against the rule.
+void deleteIfAlive(const HostCall& call, const Cell* cell)
+{
+    if (call.isAlive(cell)) {
+        delete cell;
+    }
+}
+
+}  // namespace
+
+Cell::Cell(Table* table, CellType type)
+{
+    HostCall call(HostCall::Constructor{}, "Cell::Cell", table, type);
+    call.requireAlive(table, "the table");
+    data = std::make_unique<Data>(Data{table->data->generator->data.get(), false, {}, {}});
+    call.creates(this, "Cell");
+}
+
+Cell::Cell() = default;
+
+Cell::~Cell()
+{
+    if (data == nullptr) {
+        return;  // a group, which has announced itself, or one whose construction failed
+    }
+    HostCall call(HostCall::Destructor{}, this, "Cell::~Cell");
+    refuseToLose(call, *data);
+    data.reset();
+}
+
+rapidjson::Value Cell::getJson()
+{
+    HostCall call(this, "Cell::getJson");
+    auto& allocator = data->document->document.GetAllocator();
+    rapidjson::Value value;
+    if (const auto* number = std::get_if<double>(&data->value)) {
+        value.SetDouble(*number);
+    } else if (const auto* text = std::get_if<std::string>(&data->value)) {
+        value.SetString(*text, allocator);
+    }
+    return value;
+}
+
+void Cell::setValue(double number)
+{
+    HostCall call(this, "Cell::setValue", number);
+    data->value = number;
+}
+
+void Cell::setValue(std::string text)
+{
+    HostCall call(this, "Cell::setValue", text);
+    data->value = std::move(text);
+}
+
+Descendants::Descendants(Table* table)
+{
+    HostCall call(HostCall::Constructor{}, "Descendants::Descendants", table);
+    call.requireAlive(table, "the table");
+    data = std::make_unique<Data>(Data{table->data->generator->data.get(), false, {}, GroupData{}});
+    call.creates(this, "Descendants");
+}
+
+Descendants::~Descendants()
+{
+    HostCall call(HostCall::Destructor{}, this, "Descendants::~Descendants");
+    refuseToLose(call, *data);
+    for (const Cell* child : data->group->children) {
+        deleteIfAlive(call, child);
+    }
+    data.reset();
+}
+
+rapidjson::Value Descendants::getJson()
+{
+    HostCall call(this, "Descendants::getJson");
+    auto& allocator = data->document->document.GetAllocator();
+    rapidjson::Value children(rapidjson::kArrayType);
+    for (Cell* child : data->group->children) {
+        rapidjson::Value value = child->getJson();
+        if (!child->data->isGroup()) {
+            value = rapidjson::Value(rapidjson::kObjectType).AddMember("value", value, allocator);
+        }
+        children.PushBack(value, allocator);
+    }
+    rapidjson::Value label;
+    if (data->group->label) {
+        label.SetString(*data->group->label, allocator);
+    }
+    rapidjson::Value json(rapidjson::kObjectType);
+    json.AddMember("label", label, allocator);
+    json.AddMember("showLabel", data->group->showLabel, allocator);
+    json.AddMember("children", children, allocator);
+    return json;
+}
+
+void Descendants::set_label(std::string label)
+{
+    HostCall call(this, "Descendants::set_label", label);
+    data->group->label = std::move(label);
+}
+
+void Descendants::setShowLabel(bool show)
+{
+    HostCall call(this, "Descendants::setShowLabel", show);
+    data->group->showLabel = show;
+}
+
+void Descendants::addCell(Cell* child)
+{
+    HostCall call(this, "Descendants::addCell", child);
+    requireFree(call, child, "the child");
+    call.require(child != this, "a group was added to itself");
+    data->group->children.push_back(child);
+    child->data->added = true;
+}
+
+Dimension::Dimension(Table* table, Descendants* rows, Descendants* columns)
+{
+    HostCall call(HostCall::Constructor{}, "Dimension::Dimension", table, rows, columns);
+    call.requireAlive(table, "the table");
+    requireFree(call, rows, "the row header tree");
+    requireFree(call, columns, "the column header tree");
+    call.require(rows != columns, "one header tree was given twice");
+    data = std::make_unique<Data>(Data{rows, columns});
+    rows->data->added = true;
+    columns->data->added = true;
+    call.creates(this, "Dimension");
+}
+
+Dimension::~Dimension()
+{
+    HostCall call(HostCall::Destructor{}, this, "Dimension::~Dimension");
+    deleteIfAlive(call, data->rows);
+    deleteIfAlive(call, data->columns);
+    data.reset();
+}
+
+Cells::Cells(Table* table)
+{
+    HostCall call(HostCall::Constructor{}, "Cells::Cells", table);
+    call.requireAlive(table, "the table");
+    data = std::make_unique<Data>();
+    call.creates(this, "Cells");
+}
+
+Cells::~Cells()
+{
+    HostCall call(HostCall::Destructor{}, this, "Cells::~Cells");
+    for (const auto& row : data->rows) {
+        for (const Cell* cell : row) {
+            deleteIfAlive(call, cell);
+        }
+    }
+    data.reset();
+}
+
+void Cells::addCells(std::vector<Cell*> row)
+{
+    HostCall call(this, "Cells::addCells", row);
+    for (const Cell* cell : row) {
+        requireFree(call, cell, "a cell of the row");
+    }
+    call.require(std::set<Cell*>(row.begin(), row.end()).size() == row.size(), "one cell stands twice in the row");
+    for (const Cell* cell : row) {
+        cell->data->added = true;
+    }
+    data->rows.push_back(std::move(row));
+}

@@ -1,0 +1,96 @@
+#include "standin/session.h"
+
+#include <algorithm>
+#include <stdexcept>
+#include <utility>
+
+namespace standin {
+
+namespace {
+
+Session* currentSession = nullptr;
+
+/// Copies a value with all its texts. RapidJSON's own copy goes on referring to constant texts of whoever made them,
+/// here the module, which may be unloaded.
+void copyWhole(const rapidjson::Value& from, rapidjson::Value& to, rapidjson::Document::AllocatorType& allocator)
+{
+    if (from.IsObject()) {
+        to.SetObject();
+        for (const auto& member : from.GetObject()) {
+            rapidjson::Value name;
+            rapidjson::Value value;
+            copyWhole(member.name, name, allocator);
+            copyWhole(member.value, value, allocator);
+            to.AddMember(name, value, allocator);
+        }
+    } else if (from.IsArray()) {
+        to.SetArray();
+        to.Reserve(from.Size(), allocator);
+        for (const auto& element : from.GetArray()) {
+            rapidjson::Value value;
+            copyWhole(element, value, allocator);
+            to.PushBack(value, allocator);
+        }
+    } else if (from.IsString()) {
+        to.SetString(from.GetString(), from.GetStringLength(), allocator);
+    } else {
+        to.CopyFrom(from, allocator);
+    }
+}
+
+}  // namespace
+
+Session::Session()
+    : previous_(std::exchange(currentSession, this))
+{
+    setLanguage("en");
+}
+
+Session::~Session()
+{
+    currentSession = previous_;
+}
+
+Session& Session::current()
+{
+    if (currentSession == nullptr) {
+        throw std::logic_error("no host session is running");
+    }
+    return *currentSession;
+}
+
+void Session::setLanguage(const std::string& code)
+{
+    languageCode = code;
+    // A folder's name holds neither '-' nor the separator of paths.
+    std::string folderName = code;
+    std::ranges::replace_if(
+        folderName, [](char c) { return c == '-' || c == '\\'; }, '_');
+    languageFolder = "languages\\" + folderName;
+}
+
+void Session::complain(const std::string& text)
+{
+    complaints.push_back(text);
+    if (onComplaint) {
+        onComplaint(text);
+    }
+}
+
+void Session::deliver(const rapidjson::Document& document)
+{
+    rapidjson::Document copy;
+    copyWhole(document, copy, copy.GetAllocator());
+    documents.push_back(std::move(copy));
+    delivered_ = true;
+}
+
+bool Session::run(void (*entryPoint)())
+{
+    delivered_ = false;
+    entryPoint();
+    monitor.endCommand();
+    return delivered_;
+}
+
+}  // namespace standin

@@ -1,0 +1,35 @@
+// A session with data whose host calls are traced.
+#pragma once
+
+#include "standin/session.h"
+
+#include <sstream>
+#include <string>
+#include <vector>
+
+namespace tests {
+
+/// The lines of a trace that begin with one of the prefixes, in order, tabs as blanks.
+std::vector<std::string> callsOf(const std::vector<std::string>& trace, const std::vector<std::string>& prefixes);
+
+/// How many calls that may fail a trace holds up to the n-th line that begins with `prefix`, that line included.
+long fallibleCallsUpTo(const std::vector<std::string>& trace, const std::string& prefix, int n = 1);
+
+class TracedSession {
+public:
+    /// @param csv  the data; semicolons stand for line ends, so that small data fit on a line
+    explicit TracedSession(const std::string& csv = "a");
+    ~TracedSession();
+    TracedSession(const TracedSession&) = delete;
+    TracedSession& operator=(const TracedSession&) = delete;
+
+    /// The calls since the last time that this was asked.
+    std::vector<std::string> takeTrace();
+
+    standin::Session session;
+
+private:
+    std::ostringstream trace_;
+};
+
+}  // namespace tests
