@@ -1,0 +1,41 @@
+#include "standin/render/output_formats.h"
+
+#include "standin/render/render_json.h"
+#include "standin/render/render_text.h"
+
+#include <algorithm>
+#include <array>
+
+namespace standin {
+
+namespace {
+
+struct OutputFormat {
+    std::string_view ending;
+    Renderer render;
+};
+
+constexpr std::array<OutputFormat, 2> formats = {{
+    {".json", renderJson},
+    {".txt", renderText},
+}};
+
+}  // namespace
+
+Renderer rendererFor(std::string_view fileName)
+{
+    const auto* format =
+        std::ranges::find_if(formats, [fileName](const auto& known) { return fileName.ends_with(known.ending); });
+    return format == formats.end() ? nullptr : format->render;
+}
+
+std::string knownEndings()
+{
+    std::string endings;
+    for (const OutputFormat& format : formats) {
+        endings += (endings.empty() ? "" : " or ") + std::string(format.ending);
+    }
+    return endings;
+}
+
+}  // namespace standin

@@ -1,0 +1,26 @@
+#include "standin/render/render_json.h"
+
+#include "standin/json_writer.h"
+
+#include <rapidjson/stringbuffer.h>
+
+namespace standin {
+
+std::string renderJson(const std::list<rapidjson::Document>& documents)
+{
+    rapidjson::StringBuffer buffer;
+    PrettyJsonWriter<rapidjson::StringBuffer> writer(buffer);
+    writer.SetIndent(' ', 1);
+    writer.SetFormatOptions(rapidjson::kFormatSingleLineArray);
+    writer.StartObject();
+    writer.Key("documents");
+    writer.StartArray();
+    for (const rapidjson::Document& document : documents) {
+        document.Accept(writer);
+    }
+    writer.EndArray();
+    writer.EndObject();
+    return std::string(buffer.GetString(), buffer.GetSize()) + "\n";
+}
+
+}  // namespace standin
