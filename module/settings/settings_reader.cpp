@@ -1,0 +1,174 @@
+// The four subcommand readers of the settings. The order of the host calls is part of what is promised here: a host
+// that traces them sees each subcommand's keywords asked for in this order.
+#include "module/data/case_reader.h"
+#include "module/diagnostics.h"
+#include "module/settings/input_setting.h"
+#include "module/settings/keyword_reader.h"
+
+#include <cstdint>
+#include <string>
+
+namespace bldatman {
+
+namespace {
+
+std::vector<std::string> readNames(const ParamObj* list)
+{
+    std::vector<std::string> names;
+    if (list != nullptr) {
+        list->getStringList(names);
+    }
+    return names;
+}
+
+}  // namespace
+
+bool BldatmanInputSetting::get_Subcommand_Global()
+{
+    const SubComObj* global = commandSpec_.getSubComObj("");
+    if (global == nullptr || !getVariables(*global)) {
+        return false;
+    }
+    const bool complete = getWith(*global);
+    // PAIRED is read after a failure of WITH as well.
+    variableSubcommand_.paired = readKeyword(global->getParamObj("PAIRED"), "NO", LetterCase::Upper);
+    return complete;
+}
+
+bool BldatmanInputSetting::getVariables(const SubComObj& global)
+{
+    variableSubcommand_.variableNames = readNames(global.getParamObj("VARIABLE"));
+    const ParamObj* list = global.getParamObj("VARIABLE");
+    const auto positions = list != nullptr ? validatedPositions("VARIABLE", *list, global) : std::nullopt;
+    if (!positions) {
+        return false;
+    }
+    if (const auto level = firstLevelNotScale("VARIABLE", *positions)) {
+        reportLine("get_Subcommand_Global: variable.GetMeasurementLevel(). " + std::to_string(*level));
+        return false;
+    }
+    variableIndices_ = *positions;
+    readColumns(variableIndices_, variableSubcommand_.variableColumns);
+    return true;
+}
+
+// A variable that is not scale is reported to the host as for VARIABLE, but writes no line of its own: intended.
+bool BldatmanInputSetting::getWith(const SubComObj& global)
+{
+    variableSubcommand_.withNames = readNames(global.getParamObj("WITH"));
+    const ParamObj* list = global.getParamObj("WITH");
+    if (list == nullptr) {
+        variableSubcommand_.withNames = variableSubcommand_.variableNames;
+        variableSubcommand_.withColumns = variableSubcommand_.variableColumns;
+        return true;
+    }
+    const auto positions = validatedPositions("WITH", *list, global);
+    if (!positions || firstLevelNotScale("WITH", *positions).has_value()) {
+        return false;
+    }
+    withIndices_ = *positions;
+    readColumns(withIndices_, variableSubcommand_.withColumns);
+    return true;
+}
+
+/// The positions of the listed variables in the data source; nothing, and a line, when the host does not know one.
+std::optional<std::vector<int>> BldatmanInputSetting::validatedPositions(const char* parameter, const ParamObj& list,
+                                                                         const SubComObj& global)
+{
+    std::vector<QuvoVarName> variables;
+    list.getVarList(variables);
+    VarSpecObj validator(parameter, global.getSubComExtName(), commandDescriptor_, &dataSource_, true);
+    if (!validator.ValidateVariables(variables, UPSpecTypes::RepeatVarAllowed)) {
+        reportLine("get_Subcommand_Global: Error during ValidateVariables.");
+        return std::nullopt;
+    }
+    return validator.GetValidVarList();
+}
+
+/// The level of the first variable that is not scale, of which the host is told; nothing when all are.
+std::optional<QUVO_Variable_Enumerations::MeasurementLevel> BldatmanInputSetting::firstLevelNotScale(
+    const char* parameter, const std::vector<int>& positions)
+{
+    for (const int position : positions) {
+        const QUVO_Variable& variable = dataSource_.GetVariable(position);
+        const MeasurementLevel level = variable.GetMeasurementLevel();
+        if (level != QUVO_Variable_Enumerations::LevelScale) {
+            parserMessage_.NeedDepVarCont(QuvoVarName(variable.GetName()), parameter, nullptr);
+            return level;
+        }
+    }
+    return std::nullopt;
+}
+
+void BldatmanInputSetting::readColumns(const std::vector<int>& indices, std::vector<Column>& columns)
+{
+    readCaseColumns(indices, dataSource_, columns);
+}
+
+void BldatmanInputSetting::getCriteria()
+{
+    const SubComObj* criteria = commandSpec_.getSubComObj("CRITERIA");
+    if (criteria == nullptr) {
+        return;
+    }
+    BldatmanCriteriaSubcommand& read = criteriaSubcommand_;
+    read.scope = readKeyword(criteria->getParamObj("SCOPE"), "ANALYSIS", LetterCase::Upper);
+    read.classMissing = readKeyword(criteria->getParamObj("CLASSMISSING"), "EXCLUDE", LetterCase::Upper);
+    read.logTransform = readKeyword(criteria->getParamObj("LOGTRANSFORM"), "FALSE", LetterCase::Upper);
+    read.agreementLimits = readKeyword(criteria->getParamObj("AGREEMENT_LIMITS"), "95", LetterCase::AsWritten);
+    read.ciLevelAgreement = readNumber(criteria->getParamObj("CILEVEL_AGREEMENT"), 95.0);
+    read.ciLevelMeanDiff = readNumber(criteria->getParamObj("CILEVEL_MEANDIFF"), 95.0);
+    read.percentage = readKeyword(criteria->getParamObj("PERCENTAGE"), "FALSE", LetterCase::Upper);
+}
+
+void BldatmanInputSetting::getPlot()
+{
+    const SubComObj* plot = commandSpec_.getSubComObj("PLOT");
+    if (plot == nullptr) {
+        return;
+    }
+    BldatmanPlotSubcommand& read = plotSubcommand_;
+    read.ratio = plot->getParamObj("RATIO") != nullptr;
+    read.refLine = plot->getParamObj("REFLINE") != nullptr;
+    if (const ParamObj* limits = plot->getParamObj("AGREEMENT_LIMITS")) {
+        read.agreementLimits = true;
+        read.agreementLimitsCi = readKeyword(limits, "", LetterCase::Upper) == "CI";
+    }
+    read.ciMeanDiff = plot->getParamObj("CI_MEANDIFF") != nullptr;
+}
+
+void BldatmanInputSetting::getPrint()
+{
+    const SubComObj* print = commandSpec_.getSubComObj("PRINT");
+    if (print == nullptr) {
+        return;
+    }
+    BldatmanPrintSubcommand read;
+    read.details = presence(print->getParamObj("DETAILS"));
+    read.rows = static_cast<std::uint16_t>(readInteger(print->getParamObj("ROWS"), 10));
+    getSort(*print, read);
+    read.agreement = presence(print->getParamObj("AGREEMENT"));
+    read.meanDiff = presence(print->getParamObj("MEANDIFF"));
+    read.percentage = readKeyword(print->getParamObj("PERCENTAGE"), "TRUE", LetterCase::Upper);
+    printSubcommand_ = read;
+}
+
+/// SORT with its qualifiers; without SORT the key and "NA" stay.
+void BldatmanInputSetting::getSort(const SubComObj& print, BldatmanPrintSubcommand& read) const
+{
+    const ParamObj* sort = print.getParamObj("SORT");
+    if (sort == nullptr) {
+        return;
+    }
+    const SubComDescriptor* printDescription = commandDescriptor_.getSubComDesc("PRINT");
+    const ParamDescriptor* sortDescription =
+        printDescription != nullptr ? printDescription->getParamDesc("SORT") : nullptr;
+    std::vector<ParamObj> qualifiers;
+    if (sortDescription == nullptr || !sort->getStringQualList(qualifiers, *sortDescription, nullptr)) {
+        return;
+    }
+    read.sortBy = readKeyword(ParamObj::getParamObj("BY", qualifiers), "MEASUREMENT", LetterCase::Upper);
+    read.descending = readKeyword(ParamObj::getParamObj("DESCENDING", qualifiers), "TRUE", LetterCase::Upper);
+}
+
+}  // namespace bldatman
