@@ -1,0 +1,166 @@
+#include "module/texts/text_catalogue.h"
+
+#include "module/texts/languages/language_tables.h"
+#include "tests/support/traced_session.h"
+
+#include <gmock/gmock.h>
+
+#include <cstdint>
+#include <map>
+#include <set>
+#include <stdexcept>
+
+namespace bldatman {
+namespace {
+
+const std::map<std::string, const LanguageTable*> tables = {
+    {"en", &englishTexts},
+    {"es", &spanishTexts},
+    {"fr", &frenchTexts},
+    {"it", &italianTexts},
+    {"de", &germanTexts},
+    {"ja", &japaneseTexts},
+    {"ko", &koreanTexts},
+    {"pl", &polishTexts},
+    {"pt_BR", &brazilianPortugueseTexts},
+    {"zh_CN", &simplifiedChineseTexts},
+    {"zh_TW", &traditionalChineseTexts},
+};
+
+std::string textIn(const std::string& language, const std::string& key, const std::string& arg1 = "",
+                   const std::string& arg2 = "")
+{
+    return BldatmanTextCatalogue(language).getText(key, arg1, arg2);
+}
+
+/// FNV-1a, 64 bits, over every key and text in order, each with its terminating zero.
+std::uint64_t digest(const LanguageTable& table)
+{
+    std::uint64_t hash = 0xcbf29ce484222325ULL;
+    const auto add = [&hash](const std::string& text) {
+        for (std::size_t i = 0; i <= text.size(); ++i) {
+            hash = (hash ^ static_cast<unsigned char>(text.c_str()[i])) * 0x100000001b3ULL;
+        }
+    };
+    for (const CatalogueEntry& entry : table) {
+        add(entry.key);
+        add(entry.text);
+    }
+    return hash;
+}
+
+// The digests were computed from the translators' delivery, not from the tables here: a byte that changes in a table
+// is noticed, and must be meant.
+TEST(TextCatalogue, HoldsTheDeliveredTextsToTheByte)
+{
+    const std::map<std::string, std::uint64_t> delivered = {
+        {"en", 0xb8f2179b80d3b3fbULL},    {"es", 0x66a8f5abbc8b9bb0ULL},    {"fr", 0x2edaea82dc55f611ULL},
+        {"it", 0x7dcea26bd014ffc4ULL},    {"de", 0x3013370231a39033ULL},    {"ja", 0x1fdca59b0f8ab88dULL},
+        {"ko", 0x38075e22753a0ea3ULL},    {"pl", 0xb84302f98de72934ULL},    {"pt_BR", 0xae6f3433223fe9baULL},
+        {"zh_CN", 0xe5612f42f8862a9dULL}, {"zh_TW", 0x71cce296184b985cULL},
+    };
+    ASSERT_EQ(tables.size(), delivered.size());
+    for (const auto& [code, table] : tables) {
+        EXPECT_EQ(digest(*table), delivered.at(code)) << code;
+    }
+}
+
+TEST(TextCatalogue, KeepsTheSlipsThatTheOutputDependsOn)
+{
+    EXPECT_EQ(textIn("es", "Mean is sorted in descending order"), "Mean is sorted in descending order");
+    EXPECT_EQ(textIn("es", "Mean is sorted in  descending order"), "Media se ordena en orden descendente");
+    EXPECT_EQ(textIn("es", "Difference/Mean is sorted in descending order"),
+              "Difference/Mean is sorted in descending order");
+    EXPECT_EQ(textIn("es", "Difference is sorted in descending order"), "Diferencia se ordena en orden descendente");
+    EXPECT_EQ(textIn("es", "^1 is sorted in ascending order", "x"), "x est trié par ordre ascendente");
+    EXPECT_EQ(textIn("fr", "Overlapping points are displayed using dodge to enhance visibility."),
+              "Los puntos superpuestos se muestran mediante esquive para mejorar su visibilidad.");
+    EXPECT_EQ(textIn("ja", "^1 is sorted in descending order", "x"), "^3 は降順にソートされます");
+    EXPECT_EQ(textIn("ja", "Confidence_Intervals_of_Mean_Differences (^1 and ^2)", "x", "y"),
+              "平均差の信頼区間 (x と y))");
+    EXPECT_EQ(textIn("pl", "^1 is sorted in descending order", "x"), "1 jest sortowane w kolejności malejącej");
+    EXPECT_EQ(textIn("zh_CN", "Mean Difference"), " 平均差");
+    EXPECT_EQ(textIn("zh_TW", "Mean Difference"), "平均差");
+}
+
+/// The placeholders that a text holds, in order.
+std::set<char> placeholders(const std::string& text)
+{
+    std::set<char> found;
+    for (std::size_t i = text.find('^'); i != std::string::npos; i = text.find('^', i + 1)) {
+        found.insert(text[i + 1]);
+    }
+    return found;
+}
+
+TEST(TextCatalogue, HasTheKeysOfTheEnglishTableAndTheirPlaceholdersInEveryLanguage)
+{
+    const std::set<std::pair<std::string, std::size_t>> oddKeys = {{"es", 20}, {"es", 21}};
+    const std::set<std::pair<std::string, std::size_t>> oddPlaceholders = {{"ja", 7}, {"pl", 7}};
+    for (const auto& [code, table] : tables) {
+        for (std::size_t row = 0; row < table->size(); ++row) {
+            const std::string key = (*table)[row].key;
+            EXPECT_EQ(key == englishTexts[row].key, !oddKeys.contains({code, row})) << code << ' ' << row;
+            EXPECT_EQ(placeholders((*table)[row].text) == placeholders(key), !oddPlaceholders.contains({code, row}))
+                << code << ' ' << key;
+        }
+    }
+}
+
+TEST(TextCatalogue, FillsTheFirstOfEachPlaceholderInTurn)
+{
+    EXPECT_EQ(textIn("en", "Bland-Altman_Plot_of_Differences (^1-^2)", "A", "B"),
+              "Bland-Altman Plot of Differences (A-B)");
+    EXPECT_EQ(textIn("en", "Mean of ^1 and ^2", "^2", "B"), "Mean of B and ^2");
+    EXPECT_EQ(textIn("en", "Mean of ^1 and ^2", "^1", "^1^2"), "Mean of ^1 and ^1^2");
+    EXPECT_EQ(textIn("en", "^1 Confidence Interval", "95"), "95% Confidence Interval");
+    EXPECT_EQ(textIn("es", "^1 Confidence Interval", "95"), "Intervalo de Confianza de 95%");
+    EXPECT_EQ(textIn("en", "^1 Agreement Limit"), " Agreement Limit");
+}
+
+TEST(TextCatalogue, ReturnsTheKeyAsItStandsOnAMiss)
+{
+    EXPECT_EQ(textIn("ru", "^1 Agreement Limit", "95"), "^1 Agreement Limit");
+    EXPECT_EQ(textIn("en_US", "Data_are_log-transformed"), "Data_are_log-transformed");
+    EXPECT_EQ(textIn("EN", "Mean"), "Mean");
+    for (const auto& [code, table] : tables) {
+        EXPECT_EQ(textIn(code, "no such ^1", "x"), "no such ^1");
+    }
+}
+
+std::string languageFor(const std::string& code, const std::string& folder)
+{
+    standin::Session session;
+    session.languageCode = code;
+    session.languageFolder = folder;
+    return BldatmanTextCatalogue::chooseLanguage();
+}
+
+TEST(TextCatalogue, ChoosesTheFoldersLastComponentElseTheHostsCode)
+{
+    EXPECT_EQ(languageFor("en", R"(C:\host\lang\zh_TW)"), "zh_TW");
+    EXPECT_EQ(languageFor("en", R"(C:\host\lang\zh_TW\)"), "zh_TW");
+    EXPECT_EQ(languageFor("en", R"(C:\host\zh_TW\\)"), "") << "only one separator is dropped";
+    EXPECT_EQ(languageFor("zh-CN", "no-separator"), "zh_CN");
+    EXPECT_EQ(languageFor("pt-B-R", "\\"), "pt_B_R");
+    EXPECT_EQ(languageFor("en", R"(lang\pt-BR)"), "pt-BR") << "the folder's name is used as it is";
+}
+
+TEST(TextCatalogue, RaisesAnErrorWhenTheHostHasNoFolder)
+{
+    EXPECT_THROW(languageFor("en", ""), std::out_of_range);
+}
+
+TEST(TextCatalogue, AsksTheHostInOrder)
+{
+    tests::TracedSession host;
+    host.session.setLanguage("zh-CN");
+    EXPECT_EQ(BldatmanTextCatalogue::chooseLanguage(), "zh_CN");
+    EXPECT_THAT(tests::callsOf(host.takeTrace(), {""}),
+                testing::ElementsAre("OLang::OLang []", "OLang::GetLanguageCode []", "OLang::~OLang []",
+                                     "PathFactory::getPathInstance [3]", "PathFinder::getPath []",
+                                     "ExtNameStr::GetU8 []", R"(QUVOMBstrrchr_8 ["languages\\zh_CN",92])"));
+}
+
+}  // namespace
+}  // namespace bldatman
