@@ -1,0 +1,14 @@
+// Linux: the library's constructor plays the part of the system's entry-point call, so that `BLDATMAN` stays the only
+// export.
+#include "module/entry/load_hook.h"
+
+extern "C" void* __dso_handle;  // NOLINT(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp): the linker's name
+
+namespace {
+
+[[gnu::constructor]] void onLibraryLoaded()
+{
+    bldatman::loadHook(&__dso_handle, bldatman::processAttach, nullptr);
+}
+
+}  // namespace
