@@ -209,6 +209,13 @@ const Breach breaches[] = {
          g.body.addCells({&*g.spare, &*g.spare});
      },
      "Cells::addCells: one cell stands twice in the row"},
+    {"CellInTwoRows",
+     [](Guest& g) {
+         Cell* cell = g.cell().release();
+         g.body.addCells({cell});
+         g.body.addCells({cell});
+     },
+     "Cells::addCells: a cell of the row was added before"},
     {"OneTreeForBothHeaders", [](Guest& g) { Dimension(&*g.table, g.tree.get(), g.tree.get()); },
      "Dimension::Dimension: one header tree was given twice"},
     {"HeaderTreeInAGroup",

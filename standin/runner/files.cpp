@@ -1,0 +1,100 @@
+#include "standin/runner/files.h"
+
+#include "standin/input_error.h"
+
+#include <cerrno>
+#include <iterator>
+#include <random>
+#include <system_error>
+
+namespace standin {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+std::string reasonOf(int error)
+{
+    return std::generic_category().message(error);
+}
+
+/// The file itself where the path is a link, so that the link stays one.
+fs::path resolved(const fs::path& file)
+{
+    std::error_code error;
+    const fs::path target = fs::canonical(file, error);
+    if (!error) {
+        return target;
+    }
+    const fs::path dangling = fs::read_symlink(file, error);
+    return error ? file : file.parent_path() / dangling;
+}
+
+fs::path partialNameBeside(const fs::path& file)
+{
+    return file.parent_path() / (".bldatman-" + std::to_string(std::random_device{}()) + ".partial");
+}
+
+}  // namespace
+
+std::string readWholeFile(const fs::path& file)
+{
+    std::error_code unknown;
+    if (fs::is_directory(file, unknown)) {
+        throw InputError(file.string(), "cannot be read: it is a folder");
+    }
+    errno = 0;
+    std::ifstream stream(file, std::ios::binary);
+    if (!stream) {
+        throw InputError(file.string(), "cannot be read: " + reasonOf(errno));
+    }
+    std::string bytes;
+    const auto size = fs::file_size(file, unknown);
+    if (!unknown) {
+        bytes.reserve(size);
+    }
+    bytes.assign(std::istreambuf_iterator<char>(stream), {});
+    if (stream.bad()) {
+        throw InputError(file.string(), "cannot be read to its end: " + reasonOf(errno));
+    }
+    return bytes;
+}
+
+OutputFile::OutputFile(const fs::path& file)
+    : file_(resolved(file))
+    , partial_(partialNameBeside(file_))
+{
+    std::error_code unknown;
+    const fs::file_status status = fs::status(file_, unknown);
+    if (fs::exists(status) && !fs::is_regular_file(status)) {
+        throw OutputError(file.string() + ": cannot be written: it is not a file");
+    }
+    errno = 0;
+    stream_.open(partial_, std::ios::binary);
+    if (!stream_) {
+        throw OutputError(file.string() + ": cannot be written: " + reasonOf(errno));
+    }
+}
+
+OutputFile::~OutputFile()
+{
+    stream_.close();
+    std::error_code ignored;
+    fs::remove(partial_, ignored);
+}
+
+void OutputFile::commit()
+{
+    errno = 0;
+    stream_.close();
+    if (!stream_) {
+        throw OutputError(file_.string() + ": cannot be written: " + reasonOf(errno));
+    }
+    std::error_code error;
+    fs::rename(partial_, file_, error);
+    if (error) {
+        throw OutputError(file_.string() + ": cannot be written: " + error.message());
+    }
+}
+
+}  // namespace standin

@@ -1,0 +1,43 @@
+// Whole files in, whole files out.
+#pragma once
+
+#include <filesystem>
+#include <fstream>
+#include <stdexcept>
+#include <string>
+
+namespace standin {
+
+/// The bytes of a file.
+/// @throws InputError  when it cannot be read
+std::string readWholeFile(const std::filesystem::path& file);
+
+/// A file could not be written; `what()` says which and why.
+class OutputError : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// Writes a file whole or not at all: what is written goes to a file beside it, which takes its place at `commit`.
+class OutputFile {
+public:
+    /// @throws OutputError  when the place is not one for a file, or cannot be written to
+    explicit OutputFile(const std::filesystem::path& file);
+
+    /// Without a `commit` nothing is left behind.
+    ~OutputFile();
+    OutputFile(const OutputFile&) = delete;
+    OutputFile& operator=(const OutputFile&) = delete;
+
+    std::ostream& stream() { return stream_; }
+
+    /// @throws OutputError  when not everything could be written
+    void commit();
+
+private:
+    std::filesystem::path file_;
+    std::filesystem::path partial_;
+    std::ofstream stream_;
+};
+
+}  // namespace standin

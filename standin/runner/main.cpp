@@ -1,0 +1,16 @@
+#include "standin/runner/messages.h"
+#include "standin/runner/options.h"
+#include "standin/runner/run.h"
+
+#include <exception>
+
+int main(int argc, char** argv)
+{
+    try {
+        const standin::CommandLine commandLine = standin::readCommandLine(argc, argv);
+        return commandLine.options ? standin::run(*commandLine.options) : commandLine.exitStatus;
+    } catch (const std::exception& error) {
+        standin::writeMessage(error.what());
+        return standin::exitBadInput;
+    }
+}

@@ -1,0 +1,120 @@
+#include "standin/runner/options.h"
+
+#include "standin/input_error.h"
+#include "standin/runner/messages.h"
+#include "standin/utf8.h"
+
+#include <CLI/CLI.hpp>
+
+#include <iostream>
+#include <string>
+
+namespace standin {
+
+namespace {
+
+/// As the command line has it, before it is looked at closely.
+struct RawOptions {
+    std::string dataFile;
+    std::string command;
+    std::string commandFile;
+    std::string dictionaryFile;
+    std::string language = "en";
+    std::vector<std::string> outputs;
+    std::string module;
+    std::string traceFile;
+};
+
+const char* const footer = R"text(
+A command names the variables to compare and what to print and plot, for example
+  bldatman-run examples/peakflow.csv -c "VARIABLE=wright1 WITH=mini1 PRINT(MEANDIFF AGREEMENT)"
+
+Exit status: 0 every command delivered a document, 1 some command did not, 2 bad usage or
+input, 3 an output could not be written, 4 the module broke the host's contract.)text";
+
+void addOptions(CLI::App& app, RawOptions& raw)
+{
+    app.add_option("DATA.csv", raw.dataFile, "the data: CSV in UTF-8, one variable per column, names in the first row")
+        ->required();
+    auto* command = app.add_option("-c,--command", raw.command,
+                                   "one command; the leading word BLDATMAN and the closing semicolon may be left out");
+    auto* commandFile = app.add_option("-f,--command-file", raw.commandFile,
+                                       "a file of commands, each closed by a semicolon, run in order over the data");
+    command->option_text("TEXT")->excludes(commandFile);
+    commandFile->option_text("F");
+    app.add_option("-d,--dictionary", raw.dictionaryFile,
+                   "JSON with labels, levels, value labels and missing codes of the variables")
+        ->option_text("F");
+    app.add_option("-l,--language", raw.language,
+                   "output language: en es fr it de ja ko pl pt_BR zh_CN zh_TW (default en)")
+        ->option_text("CODE");
+    app.add_option("-o,--output", raw.outputs,
+                   "write .json or .txt by the file's ending; may be repeated; without it, text on standard output")
+        ->option_text("F")
+        ->allow_extra_args(false);
+    app.add_option("--module", raw.module, "the library to load (default: the one built beside this program)")
+        ->option_text("F");
+    app.add_option("--trace", raw.traceFile, "write every host call, one line each, in order")->option_text("F");
+    app.set_version_flag("--version", std::string("bldatman-run ") + BLDATMAN_VERSION);
+    app.footer(footer);
+}
+
+OutputRequest outputRequest(const std::string& file)
+{
+    if (file.ends_with('/')) {
+        throw InputError(file, "plots cannot be written yet; files that end in " + knownEndings() + " can");
+    }
+    const Renderer render = rendererFor(file);
+    if (render == nullptr) {
+        const std::string what = file.ends_with(".html") ? "HTML cannot be written yet; " : "";
+        throw InputError(file, what + "the name of an output file must end in " + knownEndings());
+    }
+    return {file, render};
+}
+
+Options checked(const CLI::App& app, const RawOptions& raw)
+{
+    if (app.count("--command") + app.count("--command-file") == 0) {
+        throw InputError("there is no command: give one with -c or a file of commands with -f");
+    }
+    if (firstBadUtf8Byte(raw.language)) {
+        throw InputError("the language code is not UTF-8");
+    }
+    Options options;
+    options.dataFile = raw.dataFile;
+    if (app.count("--command") > 0) {
+        options.command = raw.command;
+    }
+    options.commandFile = raw.commandFile;
+    options.dictionaryFile = raw.dictionaryFile;
+    options.language = raw.language;
+    for (const std::string& file : raw.outputs) {
+        options.outputs.push_back(outputRequest(file));
+    }
+    options.module = raw.module;
+    options.traceFile = raw.traceFile;
+    return options;
+}
+
+}  // namespace
+
+CommandLine readCommandLine(int argc, char** argv)
+{
+    CLI::App app("Runs Bland-Altman method-comparison commands over a CSV file.", "bldatman-run");
+    RawOptions raw;
+    addOptions(app, raw);
+    try {
+        app.parse(argc, argv);
+        return {checked(app, raw), exitDelivered};
+    } catch (const CLI::Success& helpOrVersion) {
+        app.exit(helpOrVersion);
+        return {std::nullopt, exitDelivered};
+    } catch (const CLI::ParseError& error) {
+        writeMessage(std::string(error.what()) + "\nRun with --help for the options.");
+    } catch (const InputError& error) {
+        writeMessage(error.what());
+    }
+    return {std::nullopt, exitBadInput};
+}
+
+}  // namespace standin

@@ -1,0 +1,179 @@
+#include "standin/runner/run.h"
+
+#include "standin/command/command_text.h"
+#include "standin/csv_reader.h"
+#include "standin/dictionary_reader.h"
+#include "standin/input_error.h"
+#include "standin/render/render_text.h"
+#include "standin/runner/files.h"
+#include "standin/runner/messages.h"
+#include "standin/runner/module_library.h"
+#include "standin/session.h"
+#include "standin/utf8.h"
+
+#include <algorithm>
+#include <iostream>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace standin {
+
+namespace {
+
+DataSet readData(const Options& options)
+{
+    DataSet dataSet = readCsv(readWholeFile(options.dataFile), options.dataFile.string());
+    if (!options.dictionaryFile.empty()) {
+        applyDictionary(dataSet, readWholeFile(options.dictionaryFile), options.dictionaryFile.string());
+    }
+    return dataSet;
+}
+
+std::vector<CommandText> readCommands(const Options& options)
+{
+    if (options.command) {
+        return {singleCommand(*options.command)};
+    }
+    const std::string fileName = options.commandFile.string();
+    const std::string bytes = readWholeFile(options.commandFile);
+    return cutCommands(std::string(requireUtf8(bytes, fileName)), fileName);
+}
+
+/// One run of the program over its inputs. The library is loaded once the session stands ready, so that the session
+/// sees it load.
+class Run {
+public:
+    explicit Run(const Options& options)
+        : options_(options)
+    {
+    }
+
+    int execute()
+    {
+        try {
+            prepare();
+        } catch (const InputError& error) {
+            writeMessage(error.what());
+            return exitBadInput;
+        }
+        runCommands();
+        if (!session_.monitor.breach().empty()) {
+            writeMessage("the module broke the host's contract: " + session_.monitor.breach());
+            status_ = exitContractBroken;
+        } else if (!session_.documents.empty()) {
+            writeDocuments();
+        }
+        finishTrace();
+        return status_;
+    }
+
+private:
+    void prepare()
+    {
+        session_.dataSet = readData(options_);
+        session_.setLanguage(options_.language);
+        session_.onComplaint = writeMessage;
+        commands_ = readCommands(options_);
+        beginTrace();
+        library_.emplace(options_.module.empty() ? ModuleLibrary::besideProgram() : options_.module);
+    }
+
+    void runCommands()
+    {
+        for (std::size_t i = 0; i < commands_.size() && session_.monitor.breach().empty(); ++i) {
+            session_.command = commands_[i];
+            if (!session_.run(library_->entryPoint())) {
+                reportWithoutDocument(i);
+            }
+        }
+    }
+
+    void reportWithoutDocument(std::size_t index)
+    {
+        raise(exitCommandFailed);
+        std::string which = "the command";
+        if (!options_.command) {
+            const auto line = placeOf(*commands_[index].text, commands_[index].begin).line;
+            which = "command " + std::to_string(index + 1) + " of " + std::to_string(commands_.size()) + " (" +
+                    options_.commandFile.string() + ", line " + std::to_string(line) + ")";
+        }
+        const std::size_t cases = session_.dataSet.caseCount;
+        writeMessage(which + " ended without a document; " + std::to_string(cases) +
+                     (cases == 1 ? " case was read" : " cases were read"));
+    }
+
+    void writeDocuments()
+    {
+        if (options_.outputs.empty()) {
+            attempt([this] { writeStandardOutput(); });
+        }
+        for (const OutputRequest& output : options_.outputs) {
+            attempt([&] { writeFile(output); });
+        }
+    }
+
+    void writeStandardOutput() const
+    {
+        std::cout << renderText(session_.documents) << std::flush;
+        if (!std::cout) {
+            throw OutputError("the standard output cannot be written");
+        }
+    }
+
+    void writeFile(const OutputRequest& output) const
+    {
+        OutputFile file(output.file);
+        file.stream() << output.render(session_.documents);
+        file.commit();
+    }
+
+    void beginTrace()
+    {
+        if (!options_.traceFile.empty()) {
+            attempt([this] {
+                trace_.emplace(options_.traceFile);
+                session_.monitor.traceTo(&trace_->stream());
+            });
+        }
+    }
+
+    /// The trace is written whether or not there is a document: it is there to find out why.
+    void finishTrace()
+    {
+        session_.monitor.traceTo(nullptr);
+        if (trace_) {
+            attempt([this] { trace_->commit(); });
+        }
+    }
+
+    /// Writes something; that it could not be written ends up in the exit status.
+    template <class Write>
+    void attempt(Write write)
+    {
+        try {
+            write();
+        } catch (const OutputError& error) {
+            writeMessage(error.what());
+            raise(exitOutputNotWritten);
+        }
+    }
+
+    void raise(ExitStatus status) { status_ = std::max<int>(status_, status); }
+
+    const Options& options_;
+    std::vector<CommandText> commands_;
+    std::optional<OutputFile> trace_;
+    std::optional<ModuleLibrary> library_;
+    Session session_;
+    int status_ = exitDelivered;
+};
+
+}  // namespace
+
+int run(const Options& options)
+{
+    return Run(options).execute();
+}
+
+}  // namespace standin

@@ -1,0 +1,224 @@
+"""Runs bldatman-run the way a user does: runner_test.py PROGRAM MODULE"""
+
+import json
+import os
+import subprocess
+import sys
+import tempfile
+import unittest
+
+PROGRAM, MODULE = sys.argv[1:3]
+
+DATA = "a,b,t\n1,2,x\n3,5,y\n4,4,x\n2,3,\n7,6,x\n"
+GOOD = "VARIABLE=a WITH=b PRINT(MEANDIFF)"
+GETTERS = ("CmnBpr CmaDic CmaGlb CmaMch CmaObv CmaSym CmaSys CmnDic CmnDmo CmnGlb CmnInc CmnIo CmnLoc CmnMch CmnMcs "
+           "CmnObv CmnStk CmnSym CmnSys CmnWrk CmnDtm CmnBox").split()
+REFUSED_SETTINGS = ["Error: get_Subcommand_Global sub-command : ",
+                    "BldatmanInputSetting::start: Standard exception: Error encountered while syntax parsing.",
+                    "bldatman_entry: Step3 Unknown error occurred."]
+
+
+def ended(which="the command", cases=5):
+    read = "1 case was read" if cases == 1 else f"{cases} cases were read"
+    return f"bldatman-run: {which} ended without a document; {read}"
+
+
+class Runner(unittest.TestCase):
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        self.folder = folder.name
+        self.write("d.csv", DATA)
+
+    def write(self, name, text):
+        with open(os.path.join(self.folder, name), "w", encoding="utf-8", newline="") as file:
+            file.write(text)
+
+    def read(self, name):
+        with open(os.path.join(self.folder, name), encoding="utf-8") as file:
+            return file.read()
+
+    def files(self):
+        return sorted(os.listdir(self.folder))
+
+    def run_program(self, *arguments, output=subprocess.PIPE):
+        return subprocess.run([PROGRAM, *arguments], cwd=self.folder, stdout=output, stderr=subprocess.PIPE,
+                              encoding="utf-8", timeout=60, check=False)
+
+    def expect(self, status, errors, *arguments):
+        """The program ends with this status after exactly these lines on standard error; returns its output."""
+        result = self.run_program(*arguments)
+        self.assertEqual(result.stderr.splitlines(), errors)
+        self.assertEqual(result.returncode, status)
+        return result.stdout
+
+    def expect_nothing_run(self, message, *arguments):
+        before = self.files()
+        result = self.run_program(*arguments, "--trace", "trace.txt")
+        self.assertEqual(result.returncode, 2, result.stderr)
+        self.assertTrue(result.stderr.startswith("bldatman-run: " + message), result.stderr)
+        self.assertNotIn("Step", result.stderr)
+        self.assertEqual(result.stdout, "")
+        self.assertEqual(self.files(), before)
+
+
+class Delivery(Runner):
+    def test_writes_text_unless_told_otherwise(self):
+        text = self.expect(0, [], "d.csv", "-c", "BLDATMAN " + GOOD + ";")
+        self.assertTrue(text.startswith("Bland-Altman Analysis\n====="), text)
+        self.assertIn("Confidence Intervals of Mean Differences (a and b)\n", text)
+
+    def test_writes_every_output(self):
+        printed = self.expect(0, [], "d.csv", "-c", GOOD)
+        self.write("old.json", "replaced")
+        silent = self.expect(0, [], "-o", "x.txt", "d.csv", "-o", "old.json", "-c", GOOD, "-o", "y.json")
+        self.assertEqual(silent, "")
+        self.assertEqual(self.files(), ["d.csv", "old.json", "x.txt", "y.json"])
+        self.assertEqual(self.read("x.txt"), printed)
+        self.assertEqual(self.read("old.json"), self.read("y.json"))
+        documents = json.loads(self.read("y.json"))["documents"]
+        self.assertEqual([list(document) for document in documents], [["title", "objects"]])
+
+    def test_runs_the_commands_of_a_file_to_the_end(self):
+        self.write("c.bld", f"# 3\nBLDATMAN {GOOD};\r\n\r\nBLDATMAN VARIABLE=c\n WITH=b;\nBLDATMAN VARIABLE=b WITH=a;")
+        self.expect(1, ['bldatman-run: variable "c" in VARIABLE does not exist; did you mean "a" or "b" or "t"?',
+                        "get_Subcommand_Global: Error during ValidateVariables.", *REFUSED_SETTINGS,
+                        ended("command 2 of 3 (c.bld, line 4)")], "d.csv", "-f", "c.bld", "-o", "x.json")
+        names = [[entry["name"] for entry in document["objects"]] for document in
+                 json.loads(self.read("x.json"))["documents"]]
+        self.assertEqual([len(objects) for objects in names], [2, 1])
+        self.assertIn("(b-a)", names[1][0])
+
+    def test_speaks_the_language_asked_for(self):
+        texts = [self.expect(0, [], "d.csv", "-c", GOOD, "-l", code) for code in ("en", "zh-CN", "zh_CN", "xx-YY")]
+        self.assertEqual(texts[1], texts[2])
+        self.assertNotEqual(texts[0], texts[1])
+        self.assertIn("Bland-Altman_Plot_of_Differences (^1-^2)", texts[3])
+
+    def test_reads_the_dictionary(self):
+        self.write("v.json", '{"variables": {"a": {"missing": [7]}}}')
+        self.assertIn(", 4 points\n", self.expect(0, [], "d.csv", "-c", GOOD, "-d", "v.json"))
+
+    def test_traces_every_host_call_from_the_load_on(self):
+        self.expect(1, ["bldatman_entry: Step5 Unknown error occurred.", ended()], "d.csv", "-c", "VARIABLE=a",
+                    "--trace", "t.txt")
+        lines = self.read("t.txt").splitlines()
+        self.assertEqual(lines[:23], [f"pvGet{getter}\t[]" for getter in GETTERS] +
+                         ['BpProcedure::BpProcedure\t["BLDATMAN",10]'])
+        self.assertEqual(lines[-1], "BpProcedure::~BpProcedure\t[]")
+
+    def test_tells_its_version_and_its_options(self):
+        self.assertRegex(self.expect(0, [], "--version"), r"^bldatman-run \d+\.\d+\.\d+\n$")
+        self.assertIn("--command-file", self.expect(0, [], "--help"))
+
+
+class Refusal(Runner):
+    def expect_refused(self, errors, command, data="d.csv", cases=5):
+        self.write("kept.json", "as it was")
+        self.assertEqual(self.expect(1, [*errors, ended(cases=cases)], data, "-c", command, "-o", "kept.json"), "")
+        self.assertEqual(self.read("kept.json"), "as it was")
+
+    def test_of_an_unknown_variable(self):
+        self.expect_refused(['bldatman-run: variable "A" in VARIABLE does not exist; did you mean "a" or "b" or "t"?',
+                             "get_Subcommand_Global: Error during ValidateVariables.", *REFUSED_SETTINGS],
+                            "VARIABLE=A WITH=b")
+
+    def test_of_a_variable_that_is_not_scale(self):
+        reason = 'is not numeric: line 2 of the data holds "x"'
+        self.expect_refused([f'bldatman-run: variable "t" in VARIABLE {reason}',
+                             "get_Subcommand_Global: variable.GetMeasurementLevel(). 1", *REFUSED_SETTINGS],
+                            "VARIABLE=a t")
+        self.expect_refused([f'bldatman-run: variable "t" in WITH {reason}', *REFUSED_SETTINGS], "VARIABLE=a WITH=t")
+
+    def test_by_the_parser(self):
+        self.expect_refused(['bldatman-run: line 2, column 2: found "PRNT", expected one of PRINT, '
+                             "PAIRED, CRITERIA, PLOT", "     PRNT(MEANDIFF)", "     ^",
+                             "bldatman_entry: Step2 Unknown error occurred."], "VARIABLE=a WITH=b\n PRNT(MEANDIFF)")
+
+    def test_of_too_few_cases(self):
+        self.write("one.csv", "a,b\n1,2\n")
+        self.expect_refused(["BLDATMAN: Standard exception: Error in function "
+                             "boost::math::students_t_distribution<double>::students_t_distribution: Degrees of freedom "
+                             "argument is 0, but must be > 0 !"], "VARIABLE=a WITH=b PRINT(MEANDIFF)", "one.csv", 1)
+
+    def test_where_there_is_nothing_to_compare(self):
+        nothing = ["bldatman_entry: Step5 Unknown error occurred."]
+        self.write("empty.csv", "a,b\n")
+        self.expect_refused(nothing, GOOD, "empty.csv", 0)
+        self.expect_refused(nothing, "VARIABLE=a b PAIRED=YES")
+
+
+class BadInput(Runner):
+    def test_on_the_command_line(self):
+        for message, arguments in {
+                "there is no command": ["d.csv"],
+                "DATA.csv is required": ["-c", GOOD],
+                "--command excludes --command-file": ["d.csv", "-c", GOOD, "-f", "c.bld"],
+                "The following argument was not expected: --page": ["d.csv", "-c", GOOD, "--page"],
+                "x.html: HTML cannot be written yet": ["d.csv", "-c", GOOD, "-o", "x.json", "-o", "x.html"],
+                "plots/: plots cannot be written yet": ["d.csv", "-c", GOOD, "-o", "plots/"],
+                "x.png: the name of an output file must end in .json or .txt": ["d.csv", "-c", GOOD, "-o", "x.png"]}.items():
+            self.expect_nothing_run(message, *arguments)
+
+    def test_in_a_file(self):
+        self.write("ragged.csv", "a,b\n1,2\n1\n")
+        self.write("open.bld", f"BLDATMAN {GOOD};\nBLDATMAN VARIABLE=a")
+        self.write("unknown.json", '{"variables": {"z": {}}}')
+        missing = os.strerror(2)
+        for message, arguments in {
+                f"none.csv: cannot be read: {missing}": ["none.csv", "-c", GOOD],
+                f"none.bld: cannot be read: {missing}": ["d.csv", "-f", "none.bld"],
+                f"none.json: cannot be read: {missing}": ["d.csv", "-c", GOOD, "-d", "none.json"],
+                ".: cannot be read: it is a folder": [".", "-c", GOOD],
+                "ragged.csv:3: this row has 1 cell": ["ragged.csv", "-c", GOOD],
+                "open.bld:2: the command that begins here is not closed": ["d.csv", "-f", "open.bld"],
+                "unknown.json": ["d.csv", "-c", GOOD, "-d", "unknown.json"]}.items():
+            self.expect_nothing_run(message, *arguments)
+
+    def test_in_place_of_the_library(self):
+        folder, name = os.path.split(MODULE)
+        without_entry_point = os.path.join(folder, name.replace("bldatman", "standin"))
+        for message, library in [
+                ("the module cannot be loaded: ", "none.so"), ("the module cannot be loaded: ", "d.csv"),
+                (f"the module cannot be used: {without_entry_point} does not export BLDATMAN", without_entry_point)]:
+            self.expect_nothing_run(message, "d.csv", "-c", GOOD, "--module", library)
+        self.expect(0, [], "d.csv", "-c", GOOD, "--module", MODULE)
+
+
+class UnwritableOutput(Runner):
+    def test_leaves_the_other_outputs_and_no_partial_file(self):
+        os.mkdir(os.path.join(self.folder, "folder.json"))
+        self.expect(3, [f"bldatman-run: none/x.json: cannot be written: {os.strerror(2)}",
+                        "bldatman-run: folder.json: cannot be written: it is not a file"],
+                    "d.csv", "-c", GOOD, "-o", "none/x.json", "-o", "folder.json", "-o", "x.txt")
+        self.assertEqual(self.files(), ["d.csv", "folder.json", "x.txt"])
+        self.assertEqual(os.listdir(os.path.join(self.folder, "folder.json")), [])
+
+    def test_may_be_one_that_cannot_even_be_looked_at(self):
+        name = 300 * "x" + ".json"
+        self.expect(3, [f"bldatman-run: {name}: cannot be written: {os.strerror(36)}"],
+                    "d.csv", "-c", GOOD, "-o", name, "--trace", "t.txt")
+        self.assertEqual(self.files(), ["d.csv", "t.txt"])
+
+    def test_keeps_a_link_a_link(self):
+        os.symlink("target.json", os.path.join(self.folder, "link.json"))
+        for _ in range(2):
+            self.expect(0, [], "d.csv", "-c", GOOD, "-o", "link.json")
+            self.assertEqual(self.files(), ["d.csv", "link.json", "target.json"])
+            self.assertTrue(os.path.islink(os.path.join(self.folder, "link.json")))
+
+    def test_counts_for_more_than_a_command_without_a_document(self):
+        self.expect(3, [f"bldatman-run: none/t.txt: cannot be written: {os.strerror(2)}",
+                        "bldatman_entry: Step5 Unknown error occurred.", ended()],
+                    "d.csv", "-c", "VARIABLE=a", "--trace", "none/t.txt")
+
+    @unittest.skipUnless(os.path.exists("/dev/full"), "no device that is always full")
+    def test_may_be_the_standard_one(self):
+        with open("/dev/full", "w", encoding="utf-8") as full:
+            result = self.run_program("d.csv", "-c", GOOD, output=full)
+        self.assertEqual(result.stderr, "bldatman-run: the standard output cannot be written\n")
+        self.assertEqual(result.returncode, 3)
+
+
+if __name__ == "__main__":
+    unittest.main(argv=sys.argv[:1])
