@@ -79,9 +79,8 @@ void Session::complain(const std::string& text)
 
 void Session::deliver(const rapidjson::Document& document)
 {
-    rapidjson::Document copy;
+    rapidjson::Document& copy = documents.emplace_back();
     copyWhole(document, copy, copy.GetAllocator());
-    documents.push_back(std::move(copy));
     delivered_ = true;
 }
 

@@ -110,12 +110,14 @@ TEST_F(Trace, ShowsTheCopiesOfTheModuleButNotThoseOfTheHost)
     EXPECT_EQ(
         of([] {
             const ParamDescriptor rows("ROWS", UPSpecTypes::Integer, false, true, UPSpecTypes::NoBracket);
-            const ParamDescriptor copy(rows);
+            ParamDescriptor copy(rows);
             SubComDescriptor print("PRINT", UPSpecTypes::SubComSpec2, false, false);
+            copy.setValueRequired(false);
             print.addParamDesc(copy);
         }),
         (Calls{"ParamDescriptor::ParamDescriptor [\"ROWS\",9,false,true,0]", "ParamDescriptor::ParamDescriptor []",
-               "SubComDescriptor::SubComDescriptor [\"PRINT\",2,false,false]", "SubComDescriptor::addParamDesc []",
+               "SubComDescriptor::SubComDescriptor [\"PRINT\",2,false,false]",
+               "ParamDescriptor::setValueRequired [false]", "SubComDescriptor::addParamDesc []",
                "SubComDescriptor::~SubComDescriptor []", "ParamDescriptor::~ParamDescriptor []",
                "ParamDescriptor::~ParamDescriptor []"}));
 }
