@@ -3,7 +3,9 @@
 #include "standin/text.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <numeric>
+#include <utility>
 
 namespace standin {
 
@@ -26,28 +28,55 @@ std::size_t editDistance(std::string_view from, std::string_view to)
     return row.back();
 }
 
-/// The distance up to letter case, or a number too large for a near miss.
+constexpr std::size_t tooFar = std::string_view::npos;
+
+/// The distance up to letter case, or `tooFar` for a near miss.
 std::size_t distance(std::string_view text, std::string_view known)
 {
-    const std::size_t edits = editDistance(upperCase(text), upperCase(known));
     const std::size_t tolerated = std::max<std::size_t>(1, known.size() / 3);
-    return edits <= tolerated ? edits : std::string_view::npos;
+    const std::size_t lengthDifference = std::max(text.size(), known.size()) - std::min(text.size(), known.size());
+    if (lengthDifference > tolerated) {
+        return tooFar;
+    }
+    const std::size_t edits = editDistance(upperCase(text), upperCase(known));
+    return edits <= tolerated && edits < known.size() ? edits : tooFar;
+}
+
+struct Candidate {
+    std::size_t distance;
+    std::string name;
+};
+
+std::vector<Candidate> rankedByDistance(std::string_view text, const std::vector<std::string>& known)
+{
+    std::vector<Candidate> candidates;
+    for (const std::string& name : known) {
+        candidates.push_back({distance(text, name), name});
+    }
+    std::ranges::stable_sort(candidates, {}, &Candidate::distance);
+    return candidates;
 }
 
 }  // namespace
 
-std::vector<std::string> nearestFirst(std::string_view text, std::vector<std::string> known)
+std::vector<std::string> nearestFirst(std::string_view text, const std::vector<std::string>& known)
 {
-    std::ranges::stable_sort(known, {}, [text](const std::string& name) { return distance(text, name); });
-    return known;
+    std::vector<std::string> names;
+    for (Candidate& candidate : rankedByDistance(text, known)) {
+        names.push_back(std::move(candidate.name));
+    }
+    return names;
 }
 
 std::vector<std::string> nearMisses(std::string_view text, const std::vector<std::string>& known)
 {
     constexpr std::size_t most = 3;
-    std::vector<std::string> near = nearestFirst(text, known);
-    std::erase_if(near, [text](const std::string& name) { return distance(text, name) == std::string_view::npos; });
-    near.resize(std::min(near.size(), most));
+    std::vector<std::string> near;
+    for (Candidate& candidate : rankedByDistance(text, known)) {
+        if (candidate.distance != tooFar && near.size() < most) {
+            near.push_back(std::move(candidate.name));
+        }
+    }
     return near;
 }
 

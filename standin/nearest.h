@@ -9,7 +9,7 @@ namespace standin {
 
 /// `known` with the names that differ from `text` by little (a letter case, a few letters) first, nearest first; the
 /// others follow in their order.
-std::vector<std::string> nearestFirst(std::string_view text, std::vector<std::string> known);
+std::vector<std::string> nearestFirst(std::string_view text, const std::vector<std::string>& known);
 
 /// Only the names that differ by little, nearest first, at most three.
 std::vector<std::string> nearMisses(std::string_view text, const std::vector<std::string>& known);

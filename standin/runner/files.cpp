@@ -60,6 +60,15 @@ std::string readWholeFile(const fs::path& file)
     return bytes;
 }
 
+bool isSameFile(const fs::path& one, const fs::path& other)
+{
+    std::error_code error;
+    if (fs::equivalent(one, other, error)) {
+        return true;
+    }
+    return fs::weakly_canonical(fs::absolute(one), error) == fs::weakly_canonical(fs::absolute(other), error);
+}
+
 OutputFile::OutputFile(const fs::path& file)
     : file_(resolved(file))
     , partial_(partialNameBeside(file_))
@@ -83,18 +92,36 @@ OutputFile::~OutputFile()
     fs::remove(partial_, ignored);
 }
 
+void OutputFile::write(const std::string& text)
+{
+    errno = 0;
+    stream_ << text << std::flush;
+    if (!stream_) {
+        fail(reasonOf(errno));
+    }
+}
+
 void OutputFile::commit()
 {
     errno = 0;
     stream_.close();
     if (!stream_) {
-        throw OutputError(file_.string() + ": cannot be written: " + reasonOf(errno));
+        fail(errno != 0 ? reasonOf(errno) : "not everything could be written");
     }
     std::error_code error;
+    const fs::file_status replaced = fs::status(file_, error);
+    if (fs::exists(replaced)) {
+        fs::permissions(partial_, replaced.permissions(), error);
+    }
     fs::rename(partial_, file_, error);
     if (error) {
-        throw OutputError(file_.string() + ": cannot be written: " + error.message());
+        fail(error.message());
     }
+}
+
+void OutputFile::fail(const std::string& reason) const
+{
+    throw OutputError(file_.string() + ": cannot be written: " + reason);
 }
 
 }  // namespace standin

@@ -18,7 +18,11 @@ public:
     using std::runtime_error::runtime_error;
 };
 
-/// Writes a file whole or not at all: what is written goes to a file beside it, which takes its place at `commit`.
+/// True when both paths lead to one file, whether or not it exists.
+bool isSameFile(const std::filesystem::path& one, const std::filesystem::path& other);
+
+/// Writes a file whole or not at all: what is written goes to a file beside it, which takes its place, and the
+/// permissions of the file that stood there, at `commit`.
 class OutputFile {
 public:
     /// @throws OutputError  when the place is not one for a file, or cannot be written to
@@ -29,12 +33,18 @@ public:
     OutputFile(const OutputFile&) = delete;
     OutputFile& operator=(const OutputFile&) = delete;
 
+    /// For what is written bit by bit; whether it could be is found out at `commit`.
     std::ostream& stream() { return stream_; }
+
+    /// @throws OutputError  when not everything could be written
+    void write(const std::string& text);
 
     /// @throws OutputError  when not everything could be written
     void commit();
 
 private:
+    [[noreturn]] void fail(const std::string& reason) const;
+
     std::filesystem::path file_;
     std::filesystem::path partial_;
     std::ofstream stream_;

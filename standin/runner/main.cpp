@@ -1,11 +1,13 @@
 #include "standin/runner/messages.h"
 #include "standin/runner/options.h"
 #include "standin/runner/run.h"
+#include "standin/runner/standard_streams.h"
 
 #include <exception>
 
 int main(int argc, char** argv)
 {
+    standin::occupyClosedStandardStreams();
     try {
         const standin::CommandLine commandLine = standin::readCommandLine(argc, argv);
         return commandLine.options ? standin::run(*commandLine.options) : commandLine.exitStatus;

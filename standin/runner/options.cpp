@@ -1,6 +1,7 @@
 #include "standin/runner/options.h"
 
 #include "standin/input_error.h"
+#include "standin/runner/files.h"
 #include "standin/runner/messages.h"
 #include "standin/utf8.h"
 
@@ -72,6 +73,29 @@ OutputRequest outputRequest(const std::string& file)
     return {file, render};
 }
 
+/// No output may take the place of an input or of another output.
+void requireDistinctFiles(const Options& options)
+{
+    std::vector<std::filesystem::path> taken = {options.dataFile, options.commandFile, options.dictionaryFile,
+                                                options.module};
+    std::erase(taken, std::filesystem::path());
+    std::vector<std::filesystem::path> written;
+    for (const OutputRequest& output : options.outputs) {
+        written.push_back(output.file);
+    }
+    if (!options.traceFile.empty()) {
+        written.push_back(options.traceFile);
+    }
+    for (const std::filesystem::path& file : written) {
+        for (const std::filesystem::path& other : taken) {
+            if (isSameFile(file, other)) {
+                throw InputError(file.string(), "would be written over " + other.string() + ", which is used already");
+            }
+        }
+        taken.push_back(file);
+    }
+}
+
 Options checked(const CLI::App& app, const RawOptions& raw)
 {
     if (app.count("--command") + app.count("--command-file") == 0) {
@@ -93,6 +117,7 @@ Options checked(const CLI::App& app, const RawOptions& raw)
     }
     options.module = raw.module;
     options.traceFile = raw.traceFile;
+    requireDistinctFiles(options);
     return options;
 }
 

@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <iostream>
+#include <new>
 #include <optional>
 #include <string>
 #include <vector>
@@ -124,7 +125,7 @@ private:
     void writeFile(const OutputRequest& output) const
     {
         OutputFile file(output.file);
-        file.stream() << output.render(session_.documents);
+        file.write(output.render(session_.documents));
         file.commit();
     }
 
@@ -147,7 +148,7 @@ private:
         }
     }
 
-    /// Writes something; that it could not be written ends up in the exit status.
+    /// Writes something; that it could not be written ends up in the exit status, and the next is attempted.
     template <class Write>
     void attempt(Write write)
     {
@@ -155,6 +156,9 @@ private:
             write();
         } catch (const OutputError& error) {
             writeMessage(error.what());
+            raise(exitOutputNotWritten);
+        } catch (const std::bad_alloc&) {
+            writeMessage("an output cannot be written: there is not enough memory");
             raise(exitOutputNotWritten);
         }
     }

@@ -81,7 +81,7 @@ class Delivery(Runner):
 
     def test_runs_the_commands_of_a_file_to_the_end(self):
         self.write("c.bld", f"# 3\nBLDATMAN {GOOD};\r\n\r\nBLDATMAN VARIABLE=c\n WITH=b;\nBLDATMAN VARIABLE=b WITH=a;")
-        self.expect(1, ['bldatman-run: variable "c" in VARIABLE does not exist; did you mean "a" or "b" or "t"?',
+        self.expect(1, ['bldatman-run: variable "c" in VARIABLE does not exist',
                         "get_Subcommand_Global: Error during ValidateVariables.", *REFUSED_SETTINGS,
                         ended("command 2 of 3 (c.bld, line 4)")], "d.csv", "-f", "c.bld", "-o", "x.json")
         names = [[entry["name"] for entry in document["objects"]] for document in
@@ -119,7 +119,7 @@ class Refusal(Runner):
         self.assertEqual(self.read("kept.json"), "as it was")
 
     def test_of_an_unknown_variable(self):
-        self.expect_refused(['bldatman-run: variable "A" in VARIABLE does not exist; did you mean "a" or "b" or "t"?',
+        self.expect_refused(['bldatman-run: variable "A" in VARIABLE does not exist; did you mean "a"?',
                              "get_Subcommand_Global: Error during ValidateVariables.", *REFUSED_SETTINGS],
                             "VARIABLE=A WITH=b")
 
@@ -199,6 +199,31 @@ class UnwritableOutput(Runner):
         self.expect(3, [f"bldatman-run: {name}: cannot be written: {os.strerror(36)}"],
                     "d.csv", "-c", GOOD, "-o", name, "--trace", "t.txt")
         self.assertEqual(self.files(), ["d.csv", "t.txt"])
+
+    def test_would_be_an_input_or_another_output(self):
+        self.write("c.txt", f"BLDATMAN {GOOD};")
+        self.write("m.json", "{}")
+        before = self.files()
+        for arguments in [["-f", "c.txt", "-o", "./c.txt"], ["-c", GOOD, "-d", "m.json", "-o", "m.json"],
+                          ["-c", GOOD, "--trace", "d.csv"], ["-c", GOOD, "-o", "x.txt", "--trace", "./x.txt"]]:
+            result = self.run_program("d.csv", *arguments)
+            self.assertTrue(result.stderr.startswith(f"bldatman-run: {arguments[-1]}: would be written over "))
+            self.assertEqual((result.returncode, self.files(), self.read("d.csv")), (2, before, DATA))
+
+    def test_keeps_the_permissions_of_the_file_that_it_replaces(self):
+        self.write("x.json", "old")
+        os.chmod(os.path.join(self.folder, "x.json"), 0o600)
+        self.expect(0, [], "d.csv", "-c", GOOD, "-o", "x.json")
+        self.assertEqual(os.stat(os.path.join(self.folder, "x.json")).st_mode & 0o777, 0o600)
+
+    def test_on_a_closed_stream_does_not_end_up_in_another_file(self):
+        whole = ["d.csv", "-c", GOOD, "--trace", "whole.txt", "-o", "x.txt"]
+        self.expect(0, [], *whole)
+        for close, status in ((">&-", 3), ("2>&-", 0)):
+            result = subprocess.run(["sh", "-c", f'"$0" d.csv -c "$1" --trace t.txt {close}', PROGRAM, GOOD],
+                                    cwd=self.folder, capture_output=True, check=False)
+            self.assertEqual(result.returncode, status)
+            self.assertEqual(self.read("t.txt"), self.read("whole.txt"))
 
     def test_keeps_a_link_a_link(self):
         os.symlink("target.json", os.path.join(self.folder, "link.json"))

@@ -254,7 +254,7 @@ TEST(CommandParser, NamesWhatCouldStandInThePlace)
         {"INPUT=a SET(FLAG=TRUE)", "1:17 found \"=\", but FLAG stands alone"},
         {"INPUT=a SET(COUNT FLAG)", "1:19 found \"FLAG\", expected \"=\" and a value after COUNT"},
         {"INPUT=a SET(FLAG",
-         "1:17 found the end of the command" + leading + "), TINT, LIMIT, NOTE, LEVEL, COUNT, SORT"},
+         "1:17 found the end of the command" + leading + "TINT, LIMIT, NOTE, LEVEL, COUNT, SORT, )"},
         {"INPUT=größe MODE=slo", "1:18 found \"slo\"" + leading + "slow, Fast"},
         {"INPUT=a; SET()", "1:10 found \"SET\", expected nothing after the closing semicolon"},
     });

@@ -173,7 +173,7 @@ TEST_P(Contract, NamesTheOperationThatBreaksItAndEndsThere)
     }
 }
 
-const Breach breaches[] = {
+const std::vector<Breach> breaches{
     {"RowTooShort",
      [](Guest& g) {
          g.addTable(2, 2, {2, 1});
