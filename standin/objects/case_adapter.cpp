@@ -137,6 +137,7 @@ ACAProcDataSourceIter::ACAProcDataSourceIter(ACAInputAdapter& adapter, bool flag
 {
     HostCall call(HostCall::Constructor{}, "ACAProcDataSourceIter::ACAProcDataSourceIter", adapter, flag);
     call.requireAlive(&adapter, "the adapter");
+    call.requireAlive(adapter.data->specs, "the validity specification");
     data = std::make_unique<Data>();
     data->adapter = &adapter;
     for (const std::size_t column : adapter.data->specs->data->columns) {

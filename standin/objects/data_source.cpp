@@ -78,6 +78,7 @@ QUVO_VLImplPointer QUVO_Variable::GetValueLabels() const
 QuvoVarName::QuvoVarName(const char* name)
 {
     HostCall call(HostCall::Constructor{}, "QuvoVarName::QuvoVarName", name);
+    call.require(name != nullptr, "the name is null");
     data = std::make_unique<Data>(Data{name, {}});
     call.creates(this, "QuvoVarName");
 }

@@ -31,7 +31,7 @@ QUVO_TokenSequence::~QUVO_TokenSequence()
 }
 
 struct UniversalParser::Data {
-    const standin::CommandText* text;
+    const QUVO_TokenSequence* tokens;
     CommandSpec* command;
     const CommandDescriptor* description;
 };
@@ -44,7 +44,7 @@ UniversalParser::UniversalParser(QUVO_TokenSequenceBase& tokens, CommandSpec& co
     call.requireAlive(&command, "the command to fill");
     call.requireAlive(&description, "the description");
     const auto& sequence = dynamic_cast<QUVO_TokenSequence&>(tokens);
-    data = std::make_unique<Data>(Data{&sequence.data->command, &command, &description});
+    data = std::make_unique<Data>(Data{&sequence, &command, &description});
     call.creates(this, "UniversalParser");
 }
 
@@ -78,14 +78,18 @@ void complain(const standin::CommandError& error, const std::string& text)
 int UniversalParser::getCommandSpecifications()
 {
     HostCall call(this, "UniversalParser::getCommandSpecifications");
+    call.requireAlive(data->tokens, "the token sequence");
+    call.requireAlive(data->command, "the command to fill");
+    call.requireAlive(data->description, "the description");
+    const standin::CommandText& text = data->tokens->data->command;
     try {
-        auto parsed = standin::parseCommand(*data->text, data->description->data->description);
+        auto parsed = standin::parseCommand(text, data->description->data->description);
         for (standin::ParsedSubcommand& subcommand : parsed.subcommands) {
             data->command->data->subcommands.push_back(makeSubcommand(std::move(subcommand)));
         }
         return 0;
     } catch (const standin::CommandError& error) {
-        complain(error, *data->text->text);
+        complain(error, *text.text);
         return 1;
     }
 }

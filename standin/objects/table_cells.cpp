@@ -2,6 +2,7 @@
 #include "standin/host_call.h"
 #include "standin/objects/output_data.h"
 
+#include <algorithm>
 #include <set>
 #include <utility>
 
@@ -14,6 +15,24 @@ void requireFree(const HostCall& call, const Cell* cell, const char* what)
 {
     call.requireAlive(cell, what);
     call.require(!cell->data->added, std::string(what) + " was added before");
+}
+
+/// The document of a table that a cell is made for.
+StatJSONGenerator::Data* documentOf(const HostCall& call, const Table* table)
+{
+    call.requireAlive(table, "the table");
+    call.requireAlive(table->data->generator, "the document");
+    return table->data->generator->data.get();
+}
+
+/// True when the cell is the group itself or a group that holds it at any depth.
+bool holds(const Cell* cell, const Descendants* group)
+{
+    if (cell == group || !cell->data->isGroup()) {
+        return cell == group;
+    }
+    const auto& children = cell->data->group->children;
+    return std::any_of(children.begin(), children.end(), [group](const Cell* child) { return holds(child, group); });
 }
 
 /// A cell that a host object has taken over is no longer the module's to delete.
@@ -37,8 +56,7 @@ void deleteIfAlive(const HostCall& call, const Cell* cell)
 Cell::Cell(Table* table, CellType type)
 {
     HostCall call(HostCall::Constructor{}, "Cell::Cell", table, type);
-    call.requireAlive(table, "the table");
-    data = std::make_unique<Data>(Data{table->data->generator->data.get(), false, {}, {}});
+    data = std::make_unique<Data>(Data{documentOf(call, table), false, {}, {}});
     call.creates(this, "Cell");
 }
 
@@ -82,8 +100,7 @@ void Cell::setValue(std::string text)
 Descendants::Descendants(Table* table)
 {
     HostCall call(HostCall::Constructor{}, "Descendants::Descendants", table);
-    call.requireAlive(table, "the table");
-    data = std::make_unique<Data>(Data{table->data->generator->data.get(), false, {}, GroupData{}});
+    data = std::make_unique<Data>(Data{documentOf(call, table), false, {}, GroupData{}});
     call.creates(this, "Descendants");
 }
 
@@ -136,7 +153,7 @@ void Descendants::addCell(Cell* child)
 {
     HostCall call(this, "Descendants::addCell", child);
     requireFree(call, child, "the child");
-    call.require(child != this, "a group was added to itself");
+    call.require(!holds(child, this), "a group was added to itself");
     data->group->children.push_back(child);
     child->data->added = true;
 }

@@ -1,4 +1,4 @@
-"""Runs bldatman-run the way a user does: runner_test.py PROGRAM MODULE"""
+"""Runs bldatman-run the way a user does: runner_test.py PROGRAM MODULE BAD_MODULE"""
 
 import json
 import os
@@ -7,7 +7,7 @@ import sys
 import tempfile
 import unittest
 
-PROGRAM, MODULE = sys.argv[1:3]
+PROGRAM, MODULE, BAD_MODULE = sys.argv[1:4]
 
 DATA = "a,b,t\n1,2,x\n3,5,y\n4,4,x\n2,3,\n7,6,x\n"
 GOOD = "VARIABLE=a WITH=b PRINT(MEANDIFF)"
@@ -183,6 +183,15 @@ class BadInput(Runner):
                 (f"the module cannot be used: {without_entry_point} does not export BLDATMAN", without_entry_point)]:
             self.expect_nothing_run(message, "d.csv", "-c", GOOD, "--module", library)
         self.expect(0, [], "d.csv", "-c", GOOD, "--module", MODULE)
+
+
+class BrokenContract(Runner):
+    def test_ends_the_run_and_writes_nothing(self):
+        self.write("c.bld", f"BLDATMAN {GOOD};\nBLDATMAN {GOOD};")
+        self.expect(4, [ended("command 1 of 2 (c.bld, line 1)"),
+                        "bldatman-run: the module broke the host's contract: OLang: a host object is still alive after "
+                        "the command"], "d.csv", "-f", "c.bld", "--module", BAD_MODULE, "-o", "x.txt")
+        self.assertNotIn("x.txt", self.files())
 
 
 class UnwritableOutput(Runner):

@@ -133,7 +133,7 @@ TEST(CommandParser, TakesAQuotedValueOnlyWhereALiteralMayStand)
     expectOutcomes(
         {
             {"LIMIT=\"twosd\"", "INPUT=<a> SET{LIMIT=literal TwoSd}"},
-            {"NOTE=\"say \"\"no\"\"; # (=\"", "INPUT=<a> SET{NOTE=literal say \"no\"; # (=}"},
+            {R"(NOTE="say ""no""; # (=")", R"(INPUT=<a> SET{NOTE=literal say "no"; # (=})"},
             {"LIMIT=\"96\"", "1:19 found the quoted text \"96\", expected one of 95, TwoSd"},
             {"TINT=\"Red\"", "1:18 found the quoted text \"Red\", expected one of Red, BLUE"},
             {"\"FLAG\"",
@@ -178,9 +178,8 @@ TEST(CommandParser, TakesBareAndQuotedNamesAndRangesOfThem)
         ", expected a name of letters, digits and _ . $ @; any other name goes in double quotes";
     expectOutcomes({
         {"INPUT=größe 体重 क्षमता вес१ 2nd _.$@", "INPUT=<größe><体重><क्षमता><вес१><2nd><_.$@>"},
-        {"INPUT=\"two words\" \"5\"\" disk\" \"INPUT=\" \"a:b\" \";#\"",
-         "INPUT=<two words><5\" disk><INPUT=><a:b><;#>"},
-        {"INPUT=a:d \"last one\" : \"p q\" e", "INPUT=<a>:<d><last one>:<p q><e>"},
+        {R"(INPUT="two words" "5"" disk" "INPUT=" "a:b" ";#")", "INPUT=<two words><5\" disk><INPUT=><a:b><;#>"},
+        {R"(INPUT=a:d "last one" : "p q" e)", "INPUT=<a>:<d><last one>:<p q><e>"},
         {"INPUT=a:b:c", "1:10 found \":\", expected one of EXTRA, MODE, SET, LOCK"},
         {"INPUT=a:", "1:9 found the end of the command, expected the name of a variable"},
         {"INPUT=a-b", "1:7 found \"a-b\"" + bareNames},
@@ -252,7 +251,7 @@ TEST(CommandParser, NamesWhatCouldStandInThePlace)
         {"INPUT=a SET(\n  CONT=1)", "2:3 found \"CONT\"" + leading + "COUNT, TINT, LIMIT, NOTE, LEVEL, FLAG, SORT, )"},
         {"INPUT=a SET(SORT=MEAN)", "1:17 found \"=\", expected qualifiers in parentheses after SORT"},
         {"INPUT=a SET(FLAG=TRUE)", "1:17 found \"=\", but FLAG stands alone"},
-        {"INPUT=a SET(COUNT FLAG)", "1:19 found \"FLAG\", expected \"=\" and a value after COUNT"},
+        {"INPUT=a SET(COUNT FLAG)", R"(1:19 found "FLAG", expected "=" and a value after COUNT)"},
         {"INPUT=a SET(FLAG",
          "1:17 found the end of the command" + leading + "TINT, LIMIT, NOTE, LEVEL, COUNT, SORT, )"},
         {"INPUT=größe MODE=slo", "1:18 found \"slo\"" + leading + "slow, Fast"},

@@ -246,6 +246,15 @@ const std::vector<Breach> breaches{
      "Table::addTableToProcedureJSON: the dimension is not alive"},
     {"CellOfADeletedTable", [](Guest& g) { Cell(deleted(g.table), CellTypeStandard); },
      "Cell::Cell: the table is not alive"},
+    {"CellForADeletedDocument", [](Guest& g) { g.without(g.document).cell(); },
+     "Cell::Cell: the document is not alive"},
+    {"GroupInAGroupThatItHolds",
+     [](Guest& g) {
+         Descendants* inner = Guest::add(*g.tree, g.group());
+         inner->addCell(g.tree.get());
+     },
+     "Descendants::addCell: a group was added to itself"},
+    {"NameThatIsNull", [](Guest&) { QuvoVarName(nullptr); }, "QuvoVarName::QuvoVarName: the name is null"},
     {"ChartForADeletedDocument", [](Guest& g) { g.without(g.document).addChart(); },
      "StatGPLGraph::addGPLGraphToProcedureJSON: the document is not alive"},
     {"DeliveryForADeletedProcedure", [](Guest& g) { g.without(g.procedure).deliver(); },
