@@ -72,7 +72,7 @@ public:
 /// The host's adapter between a data source and its readers. It keeps references to both arguments.
 class ACAInputAdapter {
 public:
-    ACAInputAdapter(ACAVarValidSpecs& specs, ProcedureDataSource& source);
+    ACAInputAdapter(ACAVarValidSpecs& validSpecs, ProcedureDataSource& source);
     virtual ~ACAInputAdapter();
     ACAInputAdapter(const ACAInputAdapter&) = delete;
     ACAInputAdapter& operator=(const ACAInputAdapter&) = delete;

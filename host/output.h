@@ -60,7 +60,7 @@ public:
 class OPSCommonOutput {
 public:
     /// `adapter` may be null.
-    OPSCommonOutput(ACAVarValidSpecs* specs, ProcedureDataSource& source, BpProcedure* procedure,
+    OPSCommonOutput(ACAVarValidSpecs* validSpecs, ProcedureDataSource& source, BpProcedure* procedure,
                     const ACAInputAdapter* adapter);
     ~OPSCommonOutput();
     OPSCommonOutput(const OPSCommonOutput&) = delete;

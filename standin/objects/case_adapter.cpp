@@ -79,15 +79,15 @@ int ACAVarValidSpecs::AddVariable(int column, bool flag, bool first, bool second
 }
 
 struct ACAInputAdapter::Data {
-    ACAVarValidSpecs* specs;
+    ACAVarValidSpecs* validSpecs;
 };
 
-ACAInputAdapter::ACAInputAdapter(ACAVarValidSpecs& specs, ProcedureDataSource& source)
+ACAInputAdapter::ACAInputAdapter(ACAVarValidSpecs& validSpecs, ProcedureDataSource& source)
 {
-    HostCall call(HostCall::Constructor{}, "ACAInputAdapter::ACAInputAdapter", specs, source);
-    call.requireAlive(&specs, "the validity specification");
+    HostCall call(HostCall::Constructor{}, "ACAInputAdapter::ACAInputAdapter", validSpecs, source);
+    call.requireAlive(&validSpecs, "the validity specification");
     call.requireAlive(&source, "the data source");
-    data = std::make_unique<Data>(Data{&specs});
+    data = std::make_unique<Data>(Data{&validSpecs});
     call.creates(this, "ACAInputAdapter");
 }
 
@@ -137,10 +137,10 @@ ACAProcDataSourceIter::ACAProcDataSourceIter(ACAInputAdapter& adapter, bool flag
 {
     HostCall call(HostCall::Constructor{}, "ACAProcDataSourceIter::ACAProcDataSourceIter", adapter, flag);
     call.requireAlive(&adapter, "the adapter");
-    call.requireAlive(adapter.data->specs, "the validity specification");
+    call.requireAlive(adapter.data->validSpecs, "the validity specification");
     data = std::make_unique<Data>();
     data->adapter = &adapter;
-    for (const std::size_t column : adapter.data->specs->data->columns) {
+    for (const std::size_t column : adapter.data->validSpecs->data->columns) {
         data->columns.push_back(&standin::Session::current().dataSet.variables[column].values);
     }
     for (auto& record : data->records) {

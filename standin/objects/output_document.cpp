@@ -65,11 +65,11 @@ bool StatJSONConverter::generateOutput(rapidjson::Document& document)
 
 struct OPSCommonOutput::Data {};
 
-OPSCommonOutput::OPSCommonOutput(ACAVarValidSpecs* specs, ProcedureDataSource& source, BpProcedure* procedure,
+OPSCommonOutput::OPSCommonOutput(ACAVarValidSpecs* validSpecs, ProcedureDataSource& source, BpProcedure* procedure,
                                  const ACAInputAdapter* adapter)
 {
-    HostCall call(HostCall::Constructor{}, "OPSCommonOutput::OPSCommonOutput", specs, source, procedure, adapter);
-    call.requireAlive(specs, "the validity specification");
+    HostCall call(HostCall::Constructor{}, "OPSCommonOutput::OPSCommonOutput", validSpecs, source, procedure, adapter);
+    call.requireAlive(validSpecs, "the validity specification");
     call.requireAlive(&source, "the data source");
     call.requireAlive(procedure, "the procedure");
     call.creates(this, "OPSCommonOutput");

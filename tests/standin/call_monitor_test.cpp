@@ -93,10 +93,10 @@ TEST_F(Trace, WritesPlainArgumentsAndLeavesOutOtherObjects)
 
 TEST_F(Trace, WritesANullPointerAsNull)
 {
-    ACAVarValidSpecs specs(true, true, true);
+    ACAVarValidSpecs validSpecs(true, true, true);
     ProcedureDataSource source;
     BpProcedure procedure("NAME", 10);
-    EXPECT_EQ(of([&] { const OPSCommonOutput output(&specs, source, &procedure, nullptr); }),
+    EXPECT_EQ(of([&] { const OPSCommonOutput output(&validSpecs, source, &procedure, nullptr); }),
               (Calls{"OPSCommonOutput::OPSCommonOutput [null]", "OPSCommonOutput::~OPSCommonOutput []"}));
     ParserMessage message;
     const QuvoVarName variable("a");
@@ -194,8 +194,8 @@ private:
     ProcedureDataSource source_;
     CommandDescriptor description_{"NAME"};
     const std::vector<QuvoVarName> unknown_{QuvoVarName("b")};
-    ACAVarValidSpecs specs_{true, true, true};
-    ACAInputAdapter adapter_{specs_, source_};
+    ACAVarValidSpecs validSpecs_{true, true, true};
+    ACAInputAdapter adapter_{validSpecs_, source_};
     std::optional<ACAProcDataSourceIter> cases_;
     const RecKit::Record* record_ = nullptr;
     std::optional<VarSpecObj> validator_;
@@ -212,7 +212,7 @@ private:
     std::string output_;
 
     const std::vector<Action> steps_{
-        [this] { specs_.AddVariable(0, false, true, true, true); },
+        [this] { validSpecs_.AddVariable(0, false, true, true, true); },
         [this] { cases_.emplace(adapter_, true); },
         [this] { record_ = cases_->Next(); },
         [this] { output_ += std::to_string(*record_->GetAll()); },

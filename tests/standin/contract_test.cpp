@@ -90,7 +90,7 @@ struct Guest {
     Guest& readRecord()
     {
         if (!iterator) {
-            specs.AddVariable(1, false, true, true, true);
+            validSpecs.AddVariable(1, false, true, true, true);
             iterator.emplace(adapter, true);
         }
         previous = std::exchange(record, iterator->Next());
@@ -119,8 +119,8 @@ struct Guest {
     tests::TracedSession host{"a,b;1,2;3,4"};
     std::optional<BpProcedure> procedure{std::in_place, "GUEST", 10};
     ProcedureDataSource source;
-    ACAVarValidSpecs specs{true, true, true};
-    ACAInputAdapter adapter{specs, source};
+    ACAVarValidSpecs validSpecs{true, true, true};
+    ACAInputAdapter adapter{validSpecs, source};
     std::optional<ACAProcDataSourceIter> iterator;
     const RecKit::Record* record = nullptr;
     const RecKit::Record* previous = nullptr;
