@@ -22,7 +22,7 @@ std::string reasonOf(int error)
 fs::path resolved(const fs::path& file)
 {
     std::error_code error;
-    const fs::path target = fs::canonical(file, error);
+    fs::path target = fs::canonical(file, error);
     if (!error) {
         return target;
     }
