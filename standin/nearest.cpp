@@ -50,6 +50,7 @@ struct Candidate {
 std::vector<Candidate> rankedByDistance(std::string_view text, const std::vector<std::string>& known)
 {
     std::vector<Candidate> candidates;
+    candidates.reserve(known.size());
     for (const std::string& name : known) {
         candidates.push_back({distance(text, name), name});
     }

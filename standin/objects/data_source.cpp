@@ -79,7 +79,7 @@ QuvoVarName::QuvoVarName(const char* name)
 {
     HostCall call(HostCall::Constructor{}, "QuvoVarName::QuvoVarName", name);
     call.require(name != nullptr, "the name is null");
-    data = std::make_unique<Data>(Data{name, {}});
+    data = std::make_unique<Data>(Data{name, {}});  // NOLINT(clang-analyzer-cplusplus.StringChecker): checked above
     call.creates(this, "QuvoVarName");
 }
 
