@@ -7,7 +7,6 @@
 
 #include <CLI/CLI.hpp>
 
-#include <iostream>
 #include <string>
 
 namespace standin {
