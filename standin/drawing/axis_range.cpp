@@ -1,0 +1,51 @@
+#include "standin/drawing/axis_range.h"
+
+#include "standin/drawing/chart.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace standin {
+
+namespace {
+
+/// Closer together, relative to their size, values cannot be told apart on an axis: the marks would all read alike.
+constexpr double smallestRelativeWidth = 1e-9;
+
+/// Gnuplot calculates with some multiples of the ends of an axis.
+constexpr double largestEnd = 1e300;
+
+}  // namespace
+
+void AxisExtent::include(const std::vector<double>& values)
+{
+    for (const double value : values) {
+        if (std::isfinite(value)) {
+            low_ = empty_ ? value : std::min(low_, value);
+            high_ = empty_ ? value : std::max(high_, value);
+            empty_ = false;
+        }
+    }
+}
+
+void AxisExtent::widen(double share)
+{
+    const double margin = high_ * share - low_ * share;
+    low_ -= margin;
+    high_ += margin;
+}
+
+AxisRange AxisExtent::range() const
+{
+    const double size = std::max(std::abs(low_), std::abs(high_));
+    if (!(size <= largestEnd)) {
+        throw ChartError("its values are too large for an axis");
+    }
+    if (high_ - low_ <= size * smallestRelativeWidth) {
+        const double around = size > 0.0 ? size / 10 : 1.0;
+        return {low_ - around, high_ + around};
+    }
+    return {low_, high_};
+}
+
+}  // namespace standin

@@ -1,0 +1,32 @@
+// The stretch of an axis that a chart needs.
+#pragma once
+
+#include <vector>
+
+namespace standin {
+
+struct AxisRange {
+    double low;
+    double high;
+};
+
+/// Grows over the finite ones of the values given to it.
+class AxisExtent {
+public:
+    void include(const std::vector<double>& values);
+
+    /// Adds the given share of the width so far at both ends.
+    void widen(double share);
+
+    /// Never empty: around a single value it is as wide as the value's size suggests, and without any it is -1 to 1.
+    ///
+    /// @throws ChartError  when the values are too large to be drawn
+    AxisRange range() const;
+
+private:
+    bool empty_ = true;
+    double low_ = 0.0;
+    double high_ = 0.0;
+};
+
+}  // namespace standin
