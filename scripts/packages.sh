@@ -20,6 +20,6 @@ require_packages() {
     "${root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
 }
 
-build_packages=(g++ cmake ninja-build libboost-dev rapidjson-dev libcli11-dev)
+build_packages=(g++ cmake ninja-build libboost-dev rapidjson-dev libcli11-dev libkainjow-mustache-dev gnuplot-nox)
 test_packages=(libgtest-dev libgmock-dev python3 binutils)
 check_packages=(clang-format clang-tidy git)

@@ -1,5 +1,6 @@
 #include "standin/render/output_formats.h"
 
+#include "standin/render/render_html.h"
 #include "standin/render/render_json.h"
 #include "standin/render/render_text.h"
 
@@ -15,9 +16,10 @@ struct OutputFormat {
     Renderer render;
 };
 
-constexpr std::array<OutputFormat, 2> formats = {{
-    {".json", renderJson},
-    {".txt", renderText},
+constexpr std::array<OutputFormat, 3> formats = {{
+    {".json", [](const Report& report) { return renderJson(report.documents); }},
+    {".html", renderHtml},
+    {".txt", [](const Report& report) { return renderText(report.documents); }},
 }};
 
 }  // namespace
@@ -33,7 +35,9 @@ std::string knownEndings()
 {
     std::string endings;
     for (const OutputFormat& format : formats) {
-        endings += (endings.empty() ? "" : " or ") + std::string(format.ending);
+        const std::string_view separator = &format == &formats.back() ? " or " : ", ";
+        endings += endings.empty() ? "" : separator;
+        endings += format.ending;
     }
     return endings;
 }

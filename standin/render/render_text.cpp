@@ -1,5 +1,6 @@
 #include "standin/render/render_text.h"
 
+#include "standin/render/footnote_marks.h"
 #include "standin/render/table_grid.h"
 #include "standin/render/text_alignment.h"
 #include "standin/unicode.h"
@@ -98,13 +99,6 @@ std::string renderGrid(const TableGrid& grid)
         text += gridLine(grid.rowHeaders[row], stubWidth, grid.body[row], widths);
     }
     return text;
-}
-
-/// The mark of a footnote: a, b, c, ...; after z come numbers.
-std::string footnoteMark(std::size_t index)
-{
-    constexpr std::size_t letters = 26;
-    return index < letters ? std::string(1, static_cast<char>('a' + index)) : std::to_string(index + 1);
 }
 
 std::string renderTable(const rapidjson::Value& table)

@@ -62,12 +62,12 @@ void addOptions(CLI::App& app, RawOptions& raw)
 OutputRequest outputRequest(const std::string& file)
 {
     if (file.ends_with('/')) {
-        throw InputError(file, "plots cannot be written yet; files that end in " + knownEndings() + " can");
+        return {file, nullptr};
     }
     const Renderer render = rendererFor(file);
     if (render == nullptr) {
-        const std::string what = file.ends_with(".html") ? "HTML cannot be written yet; " : "";
-        throw InputError(file, what + "the name of an output file must end in " + knownEndings());
+        throw InputError(file, "the name of an output file must end in " + knownEndings() +
+                                   ", that of a folder for plots in a slash");
     }
     return {file, render};
 }

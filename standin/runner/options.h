@@ -21,7 +21,7 @@ enum ExitStatus : int {
 
 struct OutputRequest {
     std::filesystem::path file;
-    Renderer render;
+    Renderer render;  ///< null: `file` is a folder for the plots
 };
 
 struct Options {

@@ -8,6 +8,7 @@
 #include "standin/runner/files.h"
 #include "standin/runner/messages.h"
 #include "standin/runner/module_library.h"
+#include "standin/runner/plot_files.h"
 #include "standin/session.h"
 #include "standin/utf8.h"
 
@@ -110,7 +111,7 @@ private:
             attempt([this] { writeStandardOutput(); });
         }
         for (const OutputRequest& output : options_.outputs) {
-            attempt([&] { writeFile(output); });
+            attempt([&] { writeOutput(output); });
         }
     }
 
@@ -122,10 +123,14 @@ private:
         }
     }
 
-    void writeFile(const OutputRequest& output) const
+    void writeOutput(const OutputRequest& output) const
     {
+        if (output.render == nullptr) {
+            writePlotFiles(report_, output.file);
+            return;
+        }
         OutputFile file(output.file);
-        file.write(output.render(session_.documents));
+        file.write(output.render(report_));
         file.commit();
     }
 
@@ -170,6 +175,8 @@ private:
     std::optional<OutputFile> trace_;
     std::optional<ModuleLibrary> library_;
     Session session_;
+    PictureBook pictures_{session_.documents};
+    Report report_{session_.documents, options_.language, pictures_};
     int status_ = exitDelivered;
 };
 

@@ -6,6 +6,7 @@ import subprocess
 import sys
 import tempfile
 import unittest
+import xml.etree.ElementTree
 
 PROGRAM, MODULE, BAD_MODULE = sys.argv[1:4]
 
@@ -28,6 +29,7 @@ class Runner(unittest.TestCase):
         folder = tempfile.TemporaryDirectory()
         self.addCleanup(folder.cleanup)
         self.folder = folder.name
+        self.environment = None
         self.write("d.csv", DATA)
 
     def write(self, name, text):
@@ -43,7 +45,7 @@ class Runner(unittest.TestCase):
 
     def run_program(self, *arguments, output=subprocess.PIPE):
         return subprocess.run([PROGRAM, *arguments], cwd=self.folder, stdout=output, stderr=subprocess.PIPE,
-                              encoding="utf-8", timeout=60, check=False)
+                              env=self.environment, encoding="utf-8", timeout=60, check=False)
 
     def expect(self, status, errors, *arguments):
         """The program ends with this status after exactly these lines on standard error; returns its output."""
@@ -112,6 +114,62 @@ class Delivery(Runner):
         self.assertIn("--command-file", self.expect(0, [], "--help"))
 
 
+class Plots(Runner):
+    NAMES = ["1-Bland-Altman-Plot-of-Differences-a-b.svg", "2-Bland-Altman-Plot-of-Ratios-a-b.svg"]
+
+    def test_are_in_the_report(self):
+        self.expect(0, [], "d.csv", "-c", GOOD + " PLOT(RATIO)", "-l", "de", "-o", "x.html")
+        report = self.read("x.html")
+        self.assertTrue(report.startswith('<!DOCTYPE html>\n<html lang="de">'))
+        self.assertEqual((report.count("<svg "), report.count("<circle "), report.count("<table>")), (2, 10, 1))
+
+    def test_are_files_of_their_own_in_a_folder(self):
+        self.write("kept.svg", "as it was")
+        for _ in range(2):
+            self.expect(0, [], "d.csv", "-c", GOOD + " PLOT(RATIO)", "-o", "new/plots/", "-o", "./")
+            self.assertEqual(sorted(os.listdir(os.path.join(self.folder, "new", "plots"))), self.NAMES)
+        self.assertEqual(self.files(), [*self.NAMES, "d.csv", "kept.svg", "new"])
+        self.assertEqual(self.read("kept.svg"), "as it was")
+        for name in self.NAMES:
+            self.assertEqual(xml.etree.ElementTree.parse(os.path.join(self.folder, name)).getroot().tag,
+                             "{http://www.w3.org/2000/svg}svg")
+
+    def test_have_names_that_every_system_takes(self):
+        self.write("odd.csv", '../x/\\:*?,"<a>|\n",' + 300 * "é" + "\n1,2,3\n3,5,4\n4,4,4\n")
+        self.expect(0, [], "odd.csv", "-c", f'VARIABLE="../x/\\:*?" WITH="<a>|\n" {300 * "é"}', "-o", "plots/")
+        first, second = sorted(os.listdir(os.path.join(self.folder, "plots")))
+        self.assertEqual(first, "1-Bland-Altman-Plot-of-Differences-x-a.svg")
+        self.assertTrue(second.startswith("2-Bland-Altman-Plot-of-Differences-x-éé") and len(second.encode()) < 200)
+
+    def test_that_cannot_be_drawn_leave_the_report_whole(self):
+        before = self.expect(0, [], "d.csv", "-c", GOOD)
+        self.environment = {"PATH": self.folder}
+        self.assertEqual(self.expect(0, [], "d.csv", "-c", GOOD, "-o", "x.html", "-o", "x.txt"), "")
+        self.assertEqual(self.read("x.txt"), before)
+        self.assertIn("This plot cannot be drawn: gnuplot is not installed.", self.read("x.html"))
+        self.expect(3, [f"bldatman-run: plots/{self.NAMES[0][:1]}-Bland-Altman-Plot-of-Differences-a-b.svg: cannot be "
+                        "drawn: gnuplot is not installed"], "d.csv", "-c", GOOD, "-o", "plots/")
+        self.expect(1, ["bldatman_entry: Step5 Unknown error occurred.", ended()], "d.csv", "-c", "VARIABLE=a",
+                    "-o", "none.html", "-o", "none/")
+        self.assertEqual(self.files(), ["d.csv", "plots", "x.html", "x.txt"])
+
+    def test_that_gnuplot_does_not_draw_say_what_it_said(self):
+        for program, reason in (("echo 'line 3: out of ink' >&2", "gnuplot says: out of ink"),
+                                ("kill -9 $$", "gnuplot drew nothing"), ("echo '<svg'", "gnuplot drew nothing")):
+            self.write("gnuplot", f"#!/bin/sh\n{program}\n")
+            os.chmod(os.path.join(self.folder, "gnuplot"), 0o755)
+            self.environment = {"PATH": self.folder + ":/usr/bin:/bin"}
+            self.expect(0, [], "d.csv", "-c", GOOD + " PLOT(RATIO)", "-o", "x.html")
+            self.assertIn(f"This plot cannot be drawn: {reason}.", self.read("x.html"))
+            self.assertEqual(self.read("x.html").count("This plot cannot be drawn: "), 2)
+
+    def test_folder_that_cannot_be_made_is_an_output_that_cannot_be_written(self):
+        self.expect(3, [f"bldatman-run: d.csv/: cannot be made: {os.strerror(17)}"], "d.csv", "-c", GOOD, "-o", "d.csv/",
+                    "-o", "x.txt")
+        self.assertEqual(self.read("d.csv"), DATA)
+        self.assertIn("x.txt", self.files())
+
+
 class Refusal(Runner):
     def expect_refused(self, errors, command, data="d.csv", cases=5):
         self.write("kept.json", "as it was")
@@ -155,9 +213,8 @@ class BadInput(Runner):
                 "DATA.csv is required": ["-c", GOOD],
                 "--command excludes --command-file": ["d.csv", "-c", GOOD, "-f", "c.bld"],
                 "The following argument was not expected: --page": ["d.csv", "-c", GOOD, "--page"],
-                "x.html: HTML cannot be written yet": ["d.csv", "-c", GOOD, "-o", "x.json", "-o", "x.html"],
-                "plots/: plots cannot be written yet": ["d.csv", "-c", GOOD, "-o", "plots/"],
-                "x.png: the name of an output file must end in .json or .txt": ["d.csv", "-c", GOOD, "-o", "x.png"]}.items():
+                "x.png: the name of an output file must end in .json, .html or .txt, that of a folder for plots in a "
+                "slash": ["d.csv", "-c", GOOD, "-o", "x.png"]}.items():
             self.expect_nothing_run(message, *arguments)
 
     def test_in_a_file(self):

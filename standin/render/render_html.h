@@ -1,0 +1,15 @@
+// The documents of a run as one page for a browser.
+#pragma once
+
+#include "standin/render/report.h"
+
+#include <string>
+
+namespace standin {
+
+/// One HTML file that needs nothing else: every table and every plot in the order of the documents, plots as SVG, or as
+/// a sentence with the reason where a plot has no picture. A list of contents comes first when there is more than one
+/// subject: more than one document, a table that appears twice, or plots over different horizontal axes.
+std::string renderHtml(const Report& report);
+
+}  // namespace standin
