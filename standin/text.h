@@ -12,4 +12,8 @@ std::string inQuotes(std::string_view text);
 /// ASCII letters in upper case; keywords are compared so.
 std::string upperCase(std::string_view text);
 
+/// The text as it can be shown within one line: line ends, tabs and the like as blanks, other control characters and
+/// bytes that are not UTF-8 as U+FFFD, so that no name or label can break a layout or steer a terminal.
+std::string printable(std::string_view text);
+
 }  // namespace standin

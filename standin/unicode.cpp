@@ -18,6 +18,9 @@ struct Range {
     char32_t last;
 };
 
+constexpr Range directionEmbeddings = {0x202A, 0x202E};
+constexpr Range directionIsolates = {0x2066, 0x2069};
+
 constexpr std::array<Range, 12> wideRanges = {{
     {0x1100, 0x115F},
     {0x2E80, 0x303E},
@@ -33,6 +36,11 @@ constexpr std::array<Range, 12> wideRanges = {{
     {0x20000, 0x3FFFD},
 }};
 
+bool isIn(const Range& range, char32_t character)
+{
+    return character >= range.first && character <= range.last;
+}
+
 }  // namespace
 
 bool isLetterOrDigit(char32_t character)
@@ -41,13 +49,26 @@ bool isLetterOrDigit(char32_t character)
     return major == properties::letter || major == properties::mark || boost::spirit::ucd::is_decimal_number(character);
 }
 
+bool isControl(char32_t character)
+{
+    const auto category = boost::spirit::ucd::get_category(character);
+    return category == properties::control || category == properties::line_separator ||
+           category == properties::paragraph_separator || isIn(directionEmbeddings, character) ||
+           isIn(directionIsolates, character);
+}
+
+bool isWhiteSpace(char32_t character)
+{
+    return boost::spirit::ucd::is_white_space(character);
+}
+
 std::size_t characterWidth(char32_t character)
 {
     if (boost::spirit::ucd::get_category(character) == properties::nonspacing_mark) {
         return 0;
     }
-    const bool wide = std::ranges::any_of(
-        wideRanges, [character](const Range& range) { return character >= range.first && character <= range.last; });
+    const bool wide =
+        std::ranges::any_of(wideRanges, [character](const Range& range) { return isIn(range, character); });
     return wide ? 2 : 1;
 }
 
