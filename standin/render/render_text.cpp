@@ -3,139 +3,114 @@
 #include "standin/render/footnote_marks.h"
 #include "standin/render/table_grid.h"
 #include "standin/render/text_alignment.h"
-#include "standin/unicode.h"
+#include "standin/render/text_table.h"
+#include "standin/text.h"
+#include "standin/text_wrapping.h"
 
-#include <algorithm>
-#include <numeric>
+#include <string_view>
+#include <utility>
+#include <vector>
 
 namespace standin {
 
 namespace {
 
-const std::string gap = "  ";
+constexpr std::string_view plain;
+constexpr std::string_view bold = "\x1B[1m";
+constexpr std::string_view dim = "\x1B[2m";
+constexpr std::string_view reset = "\x1B[0m";
 
-std::string underlined(const std::string& title, char line)
+/// The marks of the footnotes that a title refers to. A reference to a footnote that does not exist has none.
+std::string referenceMarks(const rapidjson::Value& table)
 {
-    return title + "\n" + std::string(textWidth(title), line) + "\n";
-}
-
-std::size_t widest(const std::vector<std::string>& texts)
-{
-    const auto wider = [](std::size_t width, const std::string& text) { return std::max(width, textWidth(text)); };
-    return std::accumulate(texts.begin(), texts.end(), std::size_t{0}, wider);
-}
-
-std::size_t spanWidth(const std::vector<std::size_t>& widths, const HeaderSpan& span)
-{
-    const auto first = widths.begin() + static_cast<std::ptrdiff_t>(span.firstColumn);
-    return std::accumulate(first, first + static_cast<std::ptrdiff_t>(span.columnCount), std::size_t{0}) +
-           gap.size() * (span.columnCount - 1);
-}
-
-/// Columns as wide as their widest text, the last column of a group wider where its label needs it.
-std::vector<std::size_t> columnWidths(const TableGrid& grid)
-{
-    std::vector<std::size_t> widths;
-    for (std::size_t column = 0; column < grid.columnHeaders.size(); ++column) {
-        std::size_t width = textWidth(grid.columnHeaders[column]);
-        for (const auto& row : grid.body) {
-            width = std::max(width, textWidth(row[column]));
+    std::string marks;
+    for (const rapidjson::Value& reference : table["footnoteRefs"].GetArray()) {
+        if (reference.GetUint() < table["footnotes"].Size()) {
+            marks += (marks.empty() ? " [" : ", ") + footnoteMark(reference.GetUint());
         }
-        widths.push_back(width);
     }
-    for (const auto& groupRow : grid.groupRows) {
-        for (const HeaderSpan& span : groupRow) {
-            const std::size_t needed = textWidth(span.label);
-            const std::size_t there = spanWidth(widths, span);
-            if (needed > there) {
-                widths[span.firstColumn + span.columnCount - 1] += needed - there;
+    return marks.empty() ? "" : marks + "]";
+}
+
+/// The text of a run, written from top to bottom.
+class TextPage {
+public:
+    explicit TextPage(const TextStyle& style)
+        : style_(style)
+    {
+    }
+
+    void addDocument(const rapidjson::Document& document)
+    {
+        if (!text_.empty()) {
+            add({"", ""}, plain);
+        }
+        addTitle(document["title"].GetString(), '=');
+        for (const rapidjson::Value& object : document["objects"].GetArray()) {
+            add({""}, plain);
+            if (object["type"] == "table") {
+                addTable(object);
+            } else {
+                addGraph(object);
             }
         }
     }
-    return widths;
-}
 
-std::string withoutTrailingBlanks(const std::string& line)
-{
-    return line.substr(0, line.find_last_not_of(' ') + 1) + "\n";
-}
+    std::string take() { return std::move(text_); }
 
-/// A row of group labels, each centred over its columns.
-std::string groupLine(const std::vector<HeaderSpan>& spans, const std::vector<std::size_t>& widths,
-                      std::size_t stubWidth)
-{
-    std::string line(stubWidth, ' ');
-    std::size_t column = 0;
-    for (const HeaderSpan& span : spans) {
-        for (; column < span.firstColumn; ++column) {
-            line += gap + std::string(widths[column], ' ');
+private:
+    void addTable(const rapidjson::Value& table)
+    {
+        if (!table["hideTitle"].GetBool()) {
+            addTitle(table["title"].GetString() + referenceMarks(table), '-');
         }
-        line += gap + centred(span.label, spanWidth(widths, span));
-        column += span.columnCount;
+        add(drawTable(layOut(table), style_.width), plain);
+        const auto footnotes = table["footnotes"].GetArray();
+        for (rapidjson::SizeType i = 0; i < footnotes.Size(); ++i) {
+            addNote(footnoteMark(i) + ". ", footnotes[i].GetString());
+        }
     }
-    return withoutTrailingBlanks(line);
-}
 
-std::string gridLine(const std::string& stub, std::size_t stubWidth, const std::vector<std::string>& texts,
-                     const std::vector<std::size_t>& widths)
-{
-    std::string line = alignedLeft(stub, stubWidth);
-    for (std::size_t column = 0; column < texts.size(); ++column) {
-        line += gap + alignedRight(texts[column], widths[column]);
+    void addGraph(const rapidjson::Value& graph)
+    {
+        const std::string points = std::to_string(graph["data"]["xdata"].Size()) + " points";
+        addNote("[plot] ", graph["name"].GetString() + (", " + points));
     }
-    return withoutTrailingBlanks(line);
-}
 
-std::string renderGrid(const TableGrid& grid)
-{
-    const std::vector<std::size_t> widths = columnWidths(grid);
-    const std::size_t stubWidth = std::max(widest(grid.rowHeaders), textWidth(grid.rowsLabel));
-    std::string text;
-    for (const auto& groupRow : grid.groupRows) {
-        text += groupLine(groupRow, widths, stubWidth);
+    void addTitle(const std::string& title, char underline)
+    {
+        const std::vector<std::string> lines = wrapText(printable(title), style_.width);
+        add(lines, bold);
+        add({std::string(widest(lines), underline)}, plain);
     }
-    text += gridLine(grid.rowsLabel, stubWidth, grid.columnHeaders, widths);
-    for (std::size_t row = 0; row < grid.body.size(); ++row) {
-        text += gridLine(grid.rowHeaders[row], stubWidth, grid.body[row], widths);
-    }
-    return text;
-}
 
-std::string renderTable(const rapidjson::Value& table)
-{
-    std::string text = table["hideTitle"].GetBool() ? "" : underlined(table["title"].GetString(), '-');
-    text += renderGrid(layOut(table));
-    const auto footnotes = table["footnotes"].GetArray();
-    for (rapidjson::SizeType i = 0; i < footnotes.Size(); ++i) {
-        text += footnoteMark(i) + ". " + footnotes[i].GetString() + "\n";
+    void addNote(const std::string& lead, const std::string& text)
+    {
+        const std::string indent(lead.size(), ' ');
+        add(hangingLines(lead, indent, printable(text), style_.width), dim);
     }
-    return text;
-}
 
-std::string renderGraph(const rapidjson::Value& graph)
-{
-    const rapidjson::SizeType pointCount = graph["data"]["xdata"].Size();
-    return std::string("[plot] ") + graph["name"].GetString() + ", " + std::to_string(pointCount) + " points\n";
-}
-
-std::string renderDocument(const rapidjson::Document& document)
-{
-    std::string text = underlined(document["title"].GetString(), '=');
-    for (const rapidjson::Value& object : document["objects"].GetArray()) {
-        text += "\n" + (object["type"] == "table" ? renderTable(object) : renderGraph(object));
+    void add(const std::vector<std::string>& lines, std::string_view look)
+    {
+        for (const std::string& line : lines) {
+            const bool shows = style_.colours && !look.empty() && !line.empty();
+            text_.append(shows ? look : "").append(line).append(shows ? reset : "").append("\n");
+        }
     }
-    return text;
-}
+
+    TextStyle style_;
+    std::string text_;
+};
 
 }  // namespace
 
-std::string renderText(const std::list<rapidjson::Document>& documents)
+std::string renderText(const std::list<rapidjson::Document>& documents, const TextStyle& style)
 {
-    std::string text;
+    TextPage page(style);
     for (const rapidjson::Document& document : documents) {
-        text += (text.empty() ? "" : "\n\n") + renderDocument(document);
+        page.addDocument(document);
     }
-    return text;
+    return page.take();
 }
 
 }  // namespace standin

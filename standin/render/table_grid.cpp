@@ -1,5 +1,7 @@
 #include "standin/render/table_grid.h"
 
+#include "standin/text.h"
+
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -14,13 +16,13 @@ std::string textOf(const rapidjson::Value& value, int decimals)
     if (value.IsNumber()) {
         return formatFixed(value.GetDouble(), decimals);
     }
-    return value.IsString() ? std::string(value.GetString(), value.GetStringLength()) : std::string();
+    return value.IsString() ? printable({value.GetString(), value.GetStringLength()}) : std::string();
 }
 
 std::string shownLabel(const rapidjson::Value& group)
 {
     const bool shown = group["showLabel"].GetBool() && group["label"].IsString();
-    const std::string label = shown ? group["label"].GetString() : "";
+    const std::string label = shown ? printable(group["label"].GetString()) : "";
     return label.find_first_not_of(' ') == std::string::npos ? "" : label;
 }
 

@@ -16,6 +16,7 @@ struct HeaderSpan {
     std::size_t columnCount;
 };
 
+/// Every text in it is `printable`.
 struct TableGrid {
     std::vector<std::vector<HeaderSpan>> groupRows;  ///< outermost first; only rows that show a label
     std::vector<std::string> columnHeaders;

@@ -1,6 +1,10 @@
 #include "standin/render/text_alignment.h"
 
+#include "standin/text_wrapping.h"
 #include "standin/unicode.h"
+
+#include <algorithm>
+#include <numeric>
 
 namespace standin {
 
@@ -27,6 +31,22 @@ std::string centred(std::string_view text, std::size_t width)
 {
     const std::string left = blanks((width + textWidth(text)) / 2, textWidth(text));
     return alignedLeft(left + std::string(text), width);
+}
+
+std::vector<std::string> hangingLines(const std::string& first, const std::string& rest, std::string_view text,
+                                      std::size_t width)
+{
+    std::vector<std::string> lines = wrapText(text, width - std::max(textWidth(first), textWidth(rest)));
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        lines[i].insert(0, i == 0 ? first : rest);
+    }
+    return lines;
+}
+
+std::size_t widest(const std::vector<std::string>& texts)
+{
+    const auto wider = [](std::size_t width, const std::string& text) { return std::max(width, textWidth(text)); };
+    return std::accumulate(texts.begin(), texts.end(), std::size_t{0}, wider);
 }
 
 }  // namespace standin

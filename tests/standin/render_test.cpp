@@ -138,7 +138,7 @@ std::string renderedTable(const std::string& rows, const std::string& columns, c
 {
     Documents documents;
     documents.push_back(parsed(R"({"title": "T", "objects": [{"type": "table", "title": "hidden", "hideTitle": true,
-                   "cellFormat": {"decimals": 2}, "footnotes": [)" +
+                   "cellFormat": {"decimals": 2}, "footnoteRefs": [], "footnotes": [)" +
                                footnotes + R"(], "rows": )" + rows + R"(, "columns": )" + columns + R"(, "cells": )" +
                                cells + "}]}"));
     const std::string text = renderText(documents);
@@ -166,20 +166,23 @@ TEST(RenderText, CentresNestedGroupLabelsOverTheirColumns)
     EXPECT_EQ(renderedTable(twoRows, group("\"all\"", R"({"value": "mean"}, )" + limits + "," + hidden),
                             "[[1, 2, 3, 4], [5, 6, 7, 8]]"),
               "             all\n"
+              "   ------------------------\n"
               "            limits\n"
+              "         ------------\n"
               "   mean  lower  upper     x\n"
               "r  1.00   2.00   3.00  4.00\n"
               "s  5.00   6.00   7.00  8.00\n");
 }
 
-TEST(RenderText, WidensColumnsUnderAWideLabel)
+TEST(RenderText, WidensTheNarrowestColumnsUnderAWideLabel)
 {
     const std::string wide = group("\"a wide label\"", R"({"value": "a"}, {"value": "b"})");
     EXPECT_EQ(renderedTable(twoRows, group("null", wide + R"(, {"value": "c"})"), "[[1, 2, 3], [4, 5, 6]]"),
               "   a wide label\n"
-              "      a       b     c\n"
-              "r  1.00    2.00  3.00\n"
-              "s  4.00    5.00  6.00\n");
+              "   ------------\n"
+              "       a      b     c\n"
+              "r   1.00   2.00  3.00\n"
+              "s   4.00   5.00  6.00\n");
 }
 
 TEST(RenderText, LeadsARowByTheShownLabelsOfItsGroups)
@@ -204,16 +207,71 @@ TEST(RenderText, MarksFootnotesByLettersThenNumbers)
     EXPECT_TRUE(text.ends_with("z. n\n27. n\n")) << text;
 }
 
+/// A table with nothing but a title and footnotes.
+std::string titledTable(const std::string& title, const std::string& footnoteRefs, const std::string& footnotes)
+{
+    return R"({"type": "table", "title": ")" + title + R"(", "hideTitle": false, "cellFormat": {"decimals": 0},
+        "footnoteRefs": [)" +
+           footnoteRefs + R"(], "footnotes": [)" + footnotes + R"(], "rows": )" + group("null", "") +
+           R"(, "columns": )" + group("null", "") + R"(, "cells": []})";
+}
+
 TEST(RenderText, UnderlinesTitlesAndPutsObjectsAndDocumentsApart)
 {
-    const std::string table = R"({"type": "table", "title": "表", "hideTitle": false, "cellFormat": {"decimals": 0},
-        "footnotes": [], "rows": )" +
-                              group("null", "") + R"(, "columns": )" + group("null", "") + R"(, "cells": []})";
+    const std::string table = titledTable("表", "", "");
     const std::string graph = R"({"type": "graph", "name": "g", "data": {"xdata": [1, 2]}})";
     Documents documents;
     documents.push_back(parsed(R"({"title": "One", "objects": [)" + table + "," + graph + "]}"));
     documents.push_back(parsed(R"({"title": "Two", "objects": []})"));
     EXPECT_EQ(renderText(documents), "One\n===\n\n表\n--\n\n\n[plot] g, 2 points\n\n\nTwo\n===\n");
+}
+
+/// A document with something of every kind that is longer than a line of 20 columns.
+Documents longTexts()
+{
+    const std::string table =
+        titledTable("Limits of agree\\nment\\u001b[1m", "0, 1, 2", R"("a note", "one more\ttoo long note")");
+    const std::string graph = R"({"type": "graph", "name": "plot of differences", "data": {"xdata": [1, 2]}})";
+    Documents documents;
+    documents.push_back(parsed(R"({"title": "Bland-Altman Analysis", "objects": [)" + table + "," + graph + "]}"));
+    return documents;
+}
+
+TEST(RenderText, WrapsTitlesWithTheirMarksAndNotesBesideTheirs)
+{
+    EXPECT_EQ(renderText(longTexts(), {.width = 20}), "Bland-Altman\n"
+                                                      "Analysis\n"
+                                                      "============\n"
+                                                      "\n"
+                                                      "Limits of agree\n"
+                                                      "ment\uFFFD[1m [a, b]\n"
+                                                      "---------------\n"
+                                                      "\n"
+                                                      "a. a note\n"
+                                                      "b. one more too long\n"
+                                                      "   note\n"
+                                                      "\n"
+                                                      "[plot] plot of\n"
+                                                      "       differences,\n"
+                                                      "       2 points\n");
+}
+
+std::string withoutColours(std::string text)
+{
+    for (std::size_t begin = text.find('\x1B'); begin != std::string::npos; begin = text.find('\x1B', begin)) {
+        text.erase(begin, text.find('m', begin) + 1 - begin);
+    }
+    return text;
+}
+
+TEST(RenderText, AddsNothingButColours)
+{
+    const std::string coloured = renderText(longTexts(), {.width = 20, .colours = true});
+    for (const std::string line : {"\x1B[1mAnalysis\x1B[0m\n", "\n============\n", "\n\x1B[2m   note\x1B[0m\n",
+                                   "\n\x1B[2m[plot] plot of\x1B[0m\n"}) {
+        EXPECT_NE(coloured.find(line), std::string::npos) << coloured;
+    }
+    EXPECT_EQ(withoutColours(coloured), renderText(longTexts(), {.width = 20}));
 }
 
 }  // namespace
