@@ -9,6 +9,7 @@
 #include "standin/runner/messages.h"
 #include "standin/runner/module_library.h"
 #include "standin/runner/plot_files.h"
+#include "standin/runner/output_style.h"
 #include "standin/session.h"
 #include "standin/utf8.h"
 
@@ -117,7 +118,7 @@ private:
 
     void writeStandardOutput() const
     {
-        std::cout << renderText(session_.documents) << std::flush;
+        std::cout << renderText(session_.documents, standardOutputStyle()) << std::flush;
         if (!std::cout) {
             throw OutputError("the standard output cannot be written");
         }

@@ -1,0 +1,83 @@
+"""Runs bldatman-run as on a terminal: terminal_test.py PROGRAM"""
+
+import fcntl
+import os
+import pty
+import re
+import struct
+import subprocess
+import sys
+import tempfile
+import termios
+import unittest
+
+PROGRAM = sys.argv[1]
+
+HOSTILE = "\x1b[31ma\tb"
+DATA = f'"{HOSTILE}",b\n1,2\n3,5\n4,4\n2,3\n7,6\n'
+ARGUMENTS = ["d.csv", "-c", f'VARIABLE="{HOSTILE}" WITH=b PRINT(DETAILS MEANDIFF AGREEMENT)']
+COLOUR = re.compile(r"\x1b\[[012]m")
+
+
+def shown_on(terminal):
+    """What arrives at a terminal whose other side is closed."""
+    received = b""
+    while True:
+        try:
+            part = os.read(terminal, 4096)
+        except OSError:  # how Linux says that there is no more
+            part = b""
+        if not part:
+            return received.decode("utf-8").replace("\r\n", "\n")
+        received += part
+
+
+class StandardOutput(unittest.TestCase):
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        self.folder = folder.name
+        with open(os.path.join(self.folder, "d.csv"), "w", encoding="utf-8") as file:
+            file.write(DATA)
+
+    def start(self, output, *arguments, **variables):
+        environment = {**os.environ, "TERM": "xterm", "NO_COLOR": "", **variables}
+        return subprocess.Popen([PROGRAM, *ARGUMENTS, *arguments], cwd=self.folder, env=environment, stdout=output,
+                                stderr=subprocess.DEVNULL, encoding="utf-8")
+
+    def on_terminal(self, columns, **variables):
+        screen, terminal = pty.openpty()
+        self.addCleanup(os.close, screen)
+        fcntl.ioctl(terminal, termios.TIOCSWINSZ, struct.pack("HHHH", 24, columns, 0, 0))
+        with self.start(terminal, **variables):
+            os.close(terminal)
+            return shown_on(screen)
+
+    def in_pipe(self, *arguments):
+        with self.start(subprocess.PIPE, *arguments) as process:
+            return process.communicate(timeout=60)[0]
+
+    def test_has_colours_on_a_terminal_that_wants_them(self):
+        plain = self.in_pipe()
+        coloured = self.on_terminal(80)
+        self.assertIn("\x1b[1mBland-Altman Analysis\x1b[0m\n=====", coloured)
+        self.assertEqual(COLOUR.sub("", coloured), plain)
+        for variables in ({"NO_COLOR": "1"}, {"TERM": "dumb"}):
+            self.assertEqual(self.on_terminal(80, **variables), plain)
+
+    def test_is_as_wide_as_the_terminal_within_reason(self):
+        for columns, at_least, at_most in ((60, 50, 60), (200, 120, 200), (10, 30, 40), (0, 70, 80)):
+            widest = max(map(len, COLOUR.sub("", self.on_terminal(columns)).splitlines()))
+            self.assertTrue(at_least <= widest <= at_most, f"{widest} of {columns} columns")
+
+    def test_is_as_plain_in_a_pipe_as_in_a_file(self):
+        plain = self.in_pipe()
+        self.assertEqual(self.in_pipe("-o", "x.txt"), "")
+        with open(os.path.join(self.folder, "x.txt"), encoding="utf-8") as file:
+            self.assertEqual(file.read(), plain)
+        self.assertNotIn("\x1b", plain)
+        self.assertIn("\ufffd[31ma b - b", plain)
+
+
+if __name__ == "__main__":
+    unittest.main(argv=sys.argv[:1])
