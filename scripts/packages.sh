@@ -20,6 +20,17 @@ require_packages() {
     "${root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
 }
 
+# A browser, and in build/browser what drives it.
+require_browser() {
+    require_packages chromium
+    if ! command -v node >/dev/null || ! command -v npm >/dev/null; then
+        require_packages nodejs npm
+    fi
+    mkdir -p build/browser
+    cp tests/browser/package.json tests/browser/package-lock.json build/browser
+    npm ci --prefix build/browser --no-audit --no-fund --loglevel=error >/dev/null
+}
+
 build_packages=(g++ cmake ninja-build libboost-dev rapidjson-dev libcli11-dev libkainjow-mustache-dev gnuplot-nox)
 test_packages=(libgtest-dev libgmock-dev python3 binutils)
 check_packages=(clang-format clang-tidy git)

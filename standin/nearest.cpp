@@ -11,18 +11,24 @@ namespace standin {
 
 namespace {
 
-/// How many bytes must be inserted, removed or replaced to make one text of the other, by the usual row by row
-/// dynamic programming.
+/// How many bytes must be inserted, removed, replaced or swapped with their neighbour to make one text of the other, by
+/// the usual dynamic programming, of which three rows are kept.
 std::size_t editDistance(std::string_view from, std::string_view to)
 {
+    std::vector<std::size_t> beforeLast(to.size() + 1);
+    std::vector<std::size_t> last(to.size() + 1);
     std::vector<std::size_t> row(to.size() + 1);
     std::iota(row.begin(), row.end(), std::size_t{0});
-    for (const char letter : from) {
-        std::size_t diagonal = row[0]++;
+    for (std::size_t i = 0; i < from.size(); ++i) {
+        std::swap(beforeLast, last);
+        std::swap(last, row);
+        row[0] = i + 1;
         for (std::size_t j = 0; j < to.size(); ++j) {
-            const std::size_t replaced = diagonal + static_cast<std::size_t>(letter != to[j]);
-            diagonal = row[j + 1];
-            row[j + 1] = std::min({replaced, row[j] + 1, row[j + 1] + 1});
+            const std::size_t replaced = last[j] + static_cast<std::size_t>(from[i] != to[j]);
+            row[j + 1] = std::min({replaced, last[j + 1] + 1, row[j] + 1});
+            if (i > 0 && j > 0 && from[i] == to[j - 1] && from[i - 1] == to[j]) {
+                row[j + 1] = std::min(row[j + 1], beforeLast[j - 1] + 1);
+            }
         }
     }
     return row.back();

@@ -13,9 +13,11 @@ inline std::string namedIn(const std::string& variable, const std::string& param
     return "variable " + inQuotes(variable) + " in " + parameter;
 }
 
+/// Where the first text of a column stands, and what to do about it.
 inline std::string whereTextStands(const TextCell& cell)
 {
-    return "line " + std::to_string(cell.line) + " of the data holds " + inQuotes(cell.text);
+    return "line " + std::to_string(cell.line) + " of the data holds " + inQuotes(cell.text) +
+           "; correct it, or leave the cell empty where a value is missing";
 }
 
 }  // namespace standin

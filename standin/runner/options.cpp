@@ -1,8 +1,10 @@
 #include "standin/runner/options.h"
 
 #include "standin/input_error.h"
+#include "standin/languages.h"
 #include "standin/runner/files.h"
 #include "standin/runner/messages.h"
+#include "standin/text_wrapping.h"
 #include "standin/utf8.h"
 
 #include <CLI/CLI.hpp>
@@ -26,36 +28,89 @@ struct RawOptions {
 };
 
 const char* const footer = R"text(
-A command names the variables to compare and what to print and plot, for example
-  bldatman-run examples/peakflow.csv -c "VARIABLE=wright1 WITH=mini1 PRINT(MEANDIFF AGREEMENT)"
+A command names the variables to compare and what to print and plot;
+docs/command.md tells all of its keywords.
 
-Exit status: 0 every command delivered a document, 1 some command did not, 2 bad usage or
-input, 3 an output could not be written, 4 the module broke the host's contract.)text";
+Exit status: 0 every command delivered a document, 1 some command did not,
+2 bad usage or input, 3 an output could not be written, 4 the module broke the
+host's contract.)text";
 
-void addOptions(CLI::App& app, RawOptions& raw)
+constexpr std::size_t namesWidth = 25;
+constexpr std::size_t descriptionsWidth = 54;
+
+/// The description of an option in lines of one width, below it an example of its use.
+std::string described(const std::string& description, const std::string& example)
 {
-    app.add_option("DATA.csv", raw.dataFile, "the data: CSV in UTF-8, one variable per column, names in the first row")
+    std::string text;
+    for (const std::string& line : wrapText(description, descriptionsWidth)) {
+        text += line + "\n";
+    }
+    return text + "  " + example;
+}
+
+/// "en English, es Spanish, ..."
+std::string languageList()
+{
+    std::string list;
+    for (const Language& language : languages) {
+        list += (list.empty() ? "" : ", ") + std::string(language.code) + " " + std::string(language.name);
+    }
+    return list;
+}
+
+void addInputOptions(CLI::App& app, RawOptions& raw)
+{
+    app.add_option("DATA.csv", raw.dataFile,
+                   described("the data: CSV in UTF-8, one variable per column, names in the first row; required",
+                             "examples/peakflow.csv -f examples/full.bld"))
+        ->option_text(" ")
         ->required();
-    auto* command = app.add_option("-c,--command", raw.command,
-                                   "one command; the leading word BLDATMAN and the closing semicolon may be left out");
-    auto* commandFile = app.add_option("-f,--command-file", raw.commandFile,
-                                       "a file of commands, each closed by a semicolon, run in order over the data");
+    auto* command =
+        app.add_option("-c,--command", raw.command,
+                       described("one command; the leading word BLDATMAN and the closing semicolon may be left out",
+                                 "-c \"VARIABLE=wright1 WITH=mini1 PRINT(AGREEMENT)\""));
+    auto* commandFile =
+        app.add_option("-f,--command-file", raw.commandFile,
+                       described("a file of commands, each closed by a semicolon, run in order over the data",
+                                 "-f examples/full.bld"));
     command->option_text("TEXT")->excludes(commandFile);
     commandFile->option_text("F");
     app.add_option("-d,--dictionary", raw.dictionaryFile,
-                   "JSON with labels, levels, value labels and missing codes of the variables")
+                   described("JSON with labels, levels, value labels and missing codes of the variables",
+                             "-d examples/peakflow.json"))
         ->option_text("F");
+}
+
+void addOutputOptions(CLI::App& app, RawOptions& raw)
+{
     app.add_option("-l,--language", raw.language,
-                   "output language: en es fr it de ja ko pl pt_BR zh_CN zh_TW (default en)")
+                   described("the language of the output, en unless given: " + languageList(), "-l pt_BR"))
         ->option_text("CODE");
-    app.add_option("-o,--output", raw.outputs,
-                   "write .json or .txt by the file's ending; may be repeated; without it, text on standard output")
+    app.add_option(
+           "-o,--output", raw.outputs,
+           described("write a file, by its ending a report for a browser (.html), text (.txt) or data (.json), or "
+                     "with a closing slash the plots as .svg files into a folder; may be repeated; without it, "
+                     "text on the standard output",
+                     "-o report.html -o report.json -o plots/"))
         ->option_text("F")
         ->allow_extra_args(false);
-    app.add_option("--module", raw.module, "the library to load (default: the one built beside this program)")
+    app.add_option("--trace", raw.traceFile,
+                   described("write every call between module and host, one line each, in order", "--trace trace.txt"))
         ->option_text("F");
-    app.add_option("--trace", raw.traceFile, "write every host call, one line each, in order")->option_text("F");
-    app.set_version_flag("--version", std::string("bldatman-run ") + BLDATMAN_VERSION);
+}
+
+void addOptions(CLI::App& app, RawOptions& raw)
+{
+    app.get_formatter()->column_width(namesWidth);
+    addInputOptions(app, raw);
+    addOutputOptions(app, raw);
+    app.add_option("--module", raw.module,
+                   described("the library to load, the one built beside this program unless given",
+                             "--module build/sanitize/lib/libbldatman.so"))
+        ->option_text("F");
+    app.set_help_flag("-h,--help", described("print this and exit", "bldatman-run --help"));
+    app.set_version_flag("--version", std::string("bldatman-run ") + BLDATMAN_VERSION,
+                         described("print the version and exit", "bldatman-run --version"));
     app.footer(footer);
 }
 

@@ -182,16 +182,17 @@ class Refusal(Runner):
                             "VARIABLE=A WITH=b")
 
     def test_of_a_variable_that_is_not_scale(self):
-        reason = 'is not numeric: line 2 of the data holds "x"'
+        reason = ('is not numeric: line 2 of the data holds "x"; correct it, or leave the cell empty where a value is '
+                  "missing")
         self.expect_refused([f'bldatman-run: variable "t" in VARIABLE {reason}',
                              "get_Subcommand_Global: variable.GetMeasurementLevel(). 1", *REFUSED_SETTINGS],
                             "VARIABLE=a t")
         self.expect_refused([f'bldatman-run: variable "t" in WITH {reason}', *REFUSED_SETTINGS], "VARIABLE=a WITH=t")
 
     def test_by_the_parser(self):
-        self.expect_refused(['bldatman-run: line 2, column 2: found "PRNT", expected one of PRINT, '
-                             "PAIRED, CRITERIA, PLOT", "     PRNT(MEANDIFF)", "     ^",
-                             "bldatman_entry: Step2 Unknown error occurred."], "VARIABLE=a WITH=b\n PRNT(MEANDIFF)")
+        self.expect_refused(['bldatman-run: line 2, column 2: found "PRNIT", expected one of PRINT, '
+                             "PAIRED, CRITERIA, PLOT", "     PRNIT(MEANDIFF)", "     ^",
+                             "bldatman_entry: Step2 Unknown error occurred."], "VARIABLE=a WITH=b\n PRNIT(MEANDIFF)")
 
     def test_of_too_few_cases(self):
         self.write("one.csv", "a,b\n1,2\n")

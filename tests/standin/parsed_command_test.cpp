@@ -160,17 +160,21 @@ TEST_F(ParsedCommand, LeavesItToTheProcedureToMindTheLevel)
     ParserMessage message;
     message.NeedDepVarCont(QuvoVarName("group"), "INPUT", nullptr);
     message.NeedDepVarCont(QuvoVarName("mini2"), "INPUT", "(extra)");
-    EXPECT_EQ(complaints_,
-              (Texts{"variable \"group\" in INPUT is not numeric: line 4 of the data holds \"x\"",
-                     "variable \"mini2\" in INPUT is ordinal; it must be scale here: if it is one, give it "
-                     "\"level\": \"scale\" in the dictionary (extra)"}));
+    EXPECT_EQ(
+        complaints_,
+        (Texts{
+            "variable \"group\" in INPUT is not numeric: line 4 of the data holds \"x\"; correct it, or leave the cell "
+            "empty where a value is missing",
+            "variable \"mini2\" in INPUT is ordinal; it must be scale here: if it is one, give it "
+            "\"level\": \"scale\" in the dictionary (extra)"}));
 }
 
 TEST_F(ParsedCommand, HasATextColumnThatIsDeclaredScaleRefused)
 {
     EXPECT_FALSE(validate("noted"));
     EXPECT_EQ(complaints_,
-              (Texts{"variable \"noted\" in INPUT is declared scale, but line 5 of the data holds \"n/a\""}));
+              (Texts{"variable \"noted\" in INPUT is declared scale, but line 5 of the data holds \"n/a\"; "
+                     "correct it, or leave the cell empty where a value is missing"}));
 }
 
 TEST_F(ParsedCommand, TellsWhereAndWhyACommandIsRefused)
