@@ -5,6 +5,7 @@
 #include "standin/drawing/gnuplot.h"
 #include "standin/drawing/gnuplot_script.h"
 #include "standin/drawing/svg_picture.h"
+#include "standin/text.h"
 
 #include <utility>
 
@@ -44,7 +45,7 @@ Sketch sketch(const rapidjson::Value& graph)
 {
     try {
         const Chart chart = readChart(graph);
-        return {chart.title, chart.xLabel, gnuplotScript(chart), ""};
+        return {printable(chart.title), chart.xLabel, gnuplotScript(chart), ""};
     } catch (const ChartError& error) {
         return {"", "", "", error.what()};
     }

@@ -1,5 +1,6 @@
 #include "standin/drawing/picture_layout.h"
 
+#include "standin/text.h"
 #include "standin/text_wrapping.h"
 
 #include <algorithm>
@@ -38,10 +39,10 @@ int heightOf(const std::vector<LegendEntry>& legend)
 }  // namespace
 
 PictureLayout::PictureLayout(const Chart& chart)
-    : title(wrapText(chart.title, titleColumns))
-    , xLabel(wrapText(chart.xLabel, xLabelColumns))
-    , yLabel(wrapText(chart.yLabel, yLabelColumns))
-    , footnote(wrapText(chart.footnote, footnoteColumns))
+    : title(wrapText(printable(chart.title), titleColumns))
+    , xLabel(wrapText(printable(chart.xLabel), xLabelColumns))
+    , yLabel(wrapText(printable(chart.yLabel), yLabelColumns))
+    , footnote(wrapText(printable(chart.footnote), footnoteColumns))
 {
     std::vector<std::string> legendTexts;
     for (const LineLayer& line : chart.lines) {
@@ -49,7 +50,8 @@ PictureLayout::PictureLayout(const Chart& chart)
         entryOfLine.push_back(static_cast<std::size_t>(known - legendTexts.begin()));
         if (known == legendTexts.end()) {
             legendTexts.push_back(line.legend);
-            legend.push_back({wrapText(line.legend, legendColumns), static_cast<int>(legend.size()), line.dashed});
+            legend.push_back(
+                {wrapText(printable(line.legend), legendColumns), static_cast<int>(legend.size()), line.dashed});
         }
     }
     plotTop = titleGap + static_cast<int>(title.size()) * titleLineHeight + titleGap;

@@ -5,6 +5,7 @@
 #include "standin/render/header_rows.h"
 #include "standin/render/report_templates.h"
 #include "standin/render/table_grid.h"
+#include "standin/text.h"
 
 #include <kainjow/mustache.hpp>
 
@@ -26,7 +27,7 @@ kainjow::mustache::mustache templateOf(std::string_view text)
 
 std::string textOf(const rapidjson::Value& value)
 {
-    return {value.GetString(), value.GetStringLength()};
+    return printable({value.GetString(), value.GetStringLength()});
 }
 
 std::string spanAttributes(const HeaderCell& cell)
@@ -122,7 +123,7 @@ data plotData(const rapidjson::Value& graph, const Picture& picture, const std::
 {
     data result("id", id);
     result["name"] = textOf(graph["name"]);
-    result["reason"] = picture.reason;
+    result["reason"] = printable(picture.reason);
     if (!picture.svg.empty()) {
         result["picture"] = picture.svg;
     }

@@ -8,8 +8,9 @@
 #include "standin/runner/files.h"
 #include "standin/runner/messages.h"
 #include "standin/runner/module_library.h"
-#include "standin/runner/plot_files.h"
 #include "standin/runner/output_style.h"
+#include "standin/runner/plot_files.h"
+#include "standin/runner/progress_line.h"
 #include "standin/session.h"
 #include "standin/utf8.h"
 
@@ -176,7 +177,9 @@ private:
     std::optional<OutputFile> trace_;
     std::optional<ModuleLibrary> library_;
     Session session_;
-    PictureBook pictures_{session_.documents};
+    ProgressLine drawing_{"Drawing plots"};
+    PictureBook pictures_{session_.documents,
+                          [this](std::size_t drawn, std::size_t total) { drawing_.show(drawn, total); }};
     Report report_{session_.documents, options_.language, pictures_};
     int status_ = exitDelivered;
 };

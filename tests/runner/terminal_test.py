@@ -32,7 +32,7 @@ def shown_on(terminal):
         received += part
 
 
-class StandardOutput(unittest.TestCase):
+class OnTerminal(unittest.TestCase):
     def setUp(self):
         folder = tempfile.TemporaryDirectory()
         self.addCleanup(folder.cleanup)
@@ -40,21 +40,24 @@ class StandardOutput(unittest.TestCase):
         with open(os.path.join(self.folder, "d.csv"), "w", encoding="utf-8") as file:
             file.write(DATA)
 
-    def start(self, output, *arguments, **variables):
+    def start(self, output, *arguments, errors=subprocess.DEVNULL, **variables):
         environment = {**os.environ, "TERM": "xterm", "NO_COLOR": "", **variables}
-        return subprocess.Popen([PROGRAM, *ARGUMENTS, *arguments], cwd=self.folder, env=environment, stdout=output,
-                                stderr=subprocess.DEVNULL, encoding="utf-8")
+        return subprocess.Popen([PROGRAM, *arguments], cwd=self.folder, env=environment, stdout=output, stderr=errors,
+                                encoding="utf-8")
 
+
+
+class StandardOutput(OnTerminal):
     def on_terminal(self, columns, **variables):
         screen, terminal = pty.openpty()
         self.addCleanup(os.close, screen)
         fcntl.ioctl(terminal, termios.TIOCSWINSZ, struct.pack("HHHH", 24, columns, 0, 0))
-        with self.start(terminal, **variables):
+        with self.start(terminal, *ARGUMENTS, **variables):
             os.close(terminal)
             return shown_on(screen)
 
     def in_pipe(self, *arguments):
-        with self.start(subprocess.PIPE, *arguments) as process:
+        with self.start(subprocess.PIPE, *ARGUMENTS, *arguments) as process:
             return process.communicate(timeout=60)[0]
 
     def test_has_colours_on_a_terminal_that_wants_them(self):
@@ -77,6 +80,27 @@ class StandardOutput(unittest.TestCase):
             self.assertEqual(file.read(), plain)
         self.assertNotIn("\x1b", plain)
         self.assertIn("\ufffd[31ma b - b", plain)
+
+
+class StandardError(OnTerminal):
+    def errors_of(self, names):
+        """What a terminal on standard error gets while a report of every two of so many variables is made."""
+        rows = [",".join(str(i * j % 7) for j in range(names)) for i in range(1, 6)]
+        with open(os.path.join(self.folder, "many.csv"), "w", encoding="utf-8") as file:
+            file.write("\n".join([",".join(f"v{i}" for i in range(names)), *rows]))
+        arguments = ["many.csv", "-c", f"VARIABLE=v0:v{names - 1}", "-o", "x.html"]
+        screen, terminal = pty.openpty()
+        self.addCleanup(os.close, screen)
+        with self.start(subprocess.DEVNULL, *arguments, errors=terminal):
+            os.close(terminal)
+            return shown_on(screen)
+
+    def test_shows_how_far_the_drawing_of_many_plots_has_come(self):
+        shown = self.errors_of(10)
+        counts = [int(count) for count in re.findall(r"\rDrawing plots: (\d+) of 90", shown)]
+        self.assertTrue(counts and counts == sorted(set(counts)) and counts[-1] < 90, shown)
+        self.assertRegex(shown, r"\r +\r$")
+        self.assertEqual(self.errors_of(3), "")
 
 
 if __name__ == "__main__":
