@@ -36,7 +36,7 @@ std::size_t editDistance(std::string_view from, std::string_view to)
 
 constexpr std::size_t tooFar = std::string_view::npos;
 
-/// The distance up to letter case, or `tooFar` for a near miss.
+/// The distance up to letter case, or `tooFar` when it is no near miss.
 std::size_t distance(std::string_view text, std::string_view known)
 {
     const std::size_t tolerated = std::max<std::size_t>(1, known.size() / 3);

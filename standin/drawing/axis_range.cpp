@@ -17,6 +17,18 @@ constexpr double largestEnd = 1e300;
 
 }  // namespace
 
+double markDistance(const AxisRange& axis, int mostMarks)
+{
+    const double least = (axis.high - axis.low) / mostMarks;
+    const double power = std::pow(10.0, std::floor(std::log10(least)));
+    for (const double factor : {1.0, 2.0, 5.0}) {
+        if (factor * power >= least) {
+            return factor * power;
+        }
+    }
+    return 10.0 * power;
+}
+
 void AxisExtent::include(const std::vector<double>& values)
 {
     for (const double value : values) {

@@ -1,11 +1,14 @@
 #include "standin/drawing/chart.h"
 
+#include "standin/document_view.h"
 #include "standin/drawing/gpl_statement.h"
 #include "standin/text.h"
 
 #include <algorithm>
 #include <array>
 #include <map>
+#include <string_view>
+#include <tuple>
 #include <utility>
 
 namespace standin {
@@ -17,11 +20,6 @@ using Kind = GplExpression::Kind;
 [[noreturn]] void fail(const std::string& reason)
 {
     throw ChartError(reason);
-}
-
-std::string textOf(const rapidjson::Value& value)
-{
-    return {value.GetString(), value.GetStringLength()};
 }
 
 /// The only argument of a call, of the given kind.
@@ -53,13 +51,15 @@ const GplExpression& argument(const GplExpression& call, const std::string& name
     return *found;
 }
 
-/// Nothing that a statement says is passed over in silence.
-void requireOnly(const GplExpression& call, const std::vector<std::string>& known)
+/// Nothing that a statement says is passed over in silence: each argument is one of the known calls, and given once.
+void requireOnly(const GplExpression& call, std::vector<std::string> known)
 {
     for (const GplExpression& given : call.arguments) {
-        if (given.kind != Kind::Call || std::ranges::find(known, given.text) == known.end()) {
+        const auto found = std::ranges::find(known, given.text);
+        if (given.kind != Kind::Call || found == known.end()) {
             fail("nothing is known of " + inQuotes(given.text) + " in " + inQuotes(call.text));
         }
+        known.erase(found);
     }
 }
 
@@ -129,12 +129,21 @@ private:
         if (found == columns_.MemberEnd()) {
             fail("there is no column " + inQuotes(column));
         }
-        variables_[statement.variable] = {&found->value, findArgument(call, "unit.category") != nullptr};
+        const bool isCategory = findArgument(call, "unit.category") != nullptr;
+        variables_[statement.variable] = {&found->value, isCategory, isCategory ? categoryCount_++ : 0};
     }
 
-    void beginGraph(const GplStatement&) { stage_ = Stage::Inside; }
+    void beginGraph(const GplStatement& statement)
+    {
+        requireOnly(statement.expression, {});
+        stage_ = Stage::Inside;
+    }
 
-    void endGraph(const GplStatement&) { stage_ = Stage::Ended; }
+    void endGraph(const GplStatement& statement)
+    {
+        requireOnly(statement.expression, {});
+        stage_ = Stage::Ended;
+    }
 
     void labelAxis(const GplStatement& statement)
     {
@@ -174,8 +183,15 @@ private:
     {
         const GplExpression& element = statement.expression;
         requireOnly(element, {"position", "color", "shape"});
-        auto [x, y] = positionOf(element);
-        chart_.lines.push_back({std::move(x), std::move(y), legendOf(element), isDashed(element)});
+        LineLayer line;
+        std::tie(line.x, line.y) = positionOf(element);
+        if (const GplExpression* colour = findArgument(element, "color")) {
+            const std::string& variable = soleArgument(*colour, Kind::Name, "the name of a variable").text;
+            line.legend = categoryOf(variable);
+            line.category = find(variable).order;
+        }
+        line.dashed = isDashed(element);
+        chart_.lines.push_back(std::move(line));
     }
 
     std::pair<std::vector<double>, std::vector<double>> positionOf(const GplExpression& element)
@@ -198,7 +214,7 @@ private:
     std::vector<double> numbersOf(const std::string& variable) const
     {
         std::vector<double> numbers;
-        for (const rapidjson::Value& value : columnOf(variable, false).GetArray()) {
+        for (const rapidjson::Value& value : numberColumn(variable).GetArray()) {
             if (!value.IsNumber()) {
                 fail(inQuotes(variable) + " holds something other than numbers");
             }
@@ -207,15 +223,10 @@ private:
         return numbers;
     }
 
-    /// The category that colours a line: all its elements are of one.
-    std::string legendOf(const GplExpression& element) const
+    /// The one text that a category variable holds: the elements of a line are all of one category.
+    std::string categoryOf(const std::string& variable) const
     {
-        const GplExpression* colour = findArgument(element, "color");
-        if (colour == nullptr) {
-            return "";
-        }
-        const std::string& variable = soleArgument(*colour, Kind::Name, "the name of a variable").text;
-        const rapidjson::Value& categories = columnOf(variable, true);
+        const rapidjson::Value& categories = categoryColumn(variable);
         for (const rapidjson::Value& category : categories.GetArray()) {
             if (!category.IsString() || category != categories[0]) {
                 fail(inQuotes(variable) + " does not hold one text for the whole line");
@@ -237,26 +248,43 @@ private:
         return true;
     }
 
-    const rapidjson::Value& columnOf(const std::string& variable, bool category) const
+    const rapidjson::Value& numberColumn(const std::string& variable) const
     {
-        const auto found = variables_.find(variable);
-        if (found == variables_.end()) {
-            fail("there is no variable " + inQuotes(variable));
+        const Variable& found = find(variable);
+        if (found.isCategory) {
+            fail(inQuotes(variable) + " is a category");
         }
-        if (found->second.isCategory != category) {
-            fail(inQuotes(variable) + (category ? " is not a category" : " is a category"));
+        return *found.column;
+    }
+
+    const rapidjson::Value& categoryColumn(const std::string& variable) const
+    {
+        const Variable& found = find(variable);
+        if (!found.isCategory) {
+            fail(inQuotes(variable) + " is not a category");
         }
-        return *found->second.column;
+        return *found.column;
     }
 
     struct Variable {
         const rapidjson::Value* column;
         bool isCategory;
+        std::size_t order;  ///< among the categories
     };
+
+    const Variable& find(const std::string& variable) const
+    {
+        const auto found = variables_.find(variable);
+        if (found == variables_.end()) {
+            fail("there is no variable " + inQuotes(variable));
+        }
+        return found->second;
+    }
 
     const rapidjson::Value& columns_;
     std::string source_;
     std::map<std::string, Variable> variables_;
+    std::size_t categoryCount_ = 0;
     Stage stage_ = Stage::Before;
     Chart chart_;
 };

@@ -3,6 +3,7 @@
 
 #include <rapidjson/document.h>
 
+#include <cstddef>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -19,7 +20,8 @@ struct PointLayer {
 struct LineLayer {
     std::vector<double> x;
     std::vector<double> y;
-    std::string legend;  ///< may be empty
+    std::string legend;        ///< may be empty
+    std::size_t category = 0;  ///< which of the chart's category variables colours it, as defined from 0 on
     bool dashed = false;
 };
 

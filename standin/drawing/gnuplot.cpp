@@ -2,6 +2,7 @@
 
 #include "standin/drawing/child_process.h"
 
+#include <sstream>
 #include <string_view>
 
 namespace standin {
@@ -30,9 +31,11 @@ public:
     {
         pending_ += piece;
         const std::string mark = endOfScript + "\n";
-        for (std::size_t end = find(mark); end != std::string::npos; end = find(mark)) {
+        std::size_t end = pending_.find(mark, searched_);
+        while (end != std::string::npos) {
             complete_.push_back(pending_.substr(0, end));
             pending_.erase(0, end + mark.size());
+            end = pending_.find(mark);
         }
         searched_ = pending_.size() < mark.size() ? 0 : pending_.size() - mark.size();
     }
@@ -49,30 +52,24 @@ public:
     }
 
 private:
-    std::size_t find(const std::string& mark)
-    {
-        const std::size_t found = pending_.find(mark, searched_);
-        searched_ = 0;
-        return found;
-    }
-
     std::vector<std::string> complete_;
     std::string pending_;
     std::size_t searched_ = 0;  ///< no mark begins before this place
 };
 
-/// Of a complaint, which shows the command and then says "line 7: reason", the reason.
-std::string reasonIn(const std::string& complaint)
+/// What follows "line 7: " in the first complaint that is no warning; what gnuplot says after it is often no more than
+/// what comes of it.
+std::string reasonIn(const std::string& complaints)
 {
-    const std::size_t end = complaint.find_last_not_of(" \n");
-    if (end == std::string::npos) {
-        return "gnuplot drew nothing";
+    std::istringstream lines(complaints);
+    for (std::string line; std::getline(lines, line);) {
+        const std::size_t number = line.find("line ");
+        const std::size_t colon = number == std::string::npos ? number : line.find(": ", number);
+        if (colon != std::string::npos && line.find("warning", colon) == std::string::npos) {
+            return "gnuplot says: " + line.substr(colon + 2);
+        }
     }
-    const std::size_t begin = complaint.rfind('\n', end) + 1;
-    const std::string line = complaint.substr(begin, end + 1 - begin);
-    const std::size_t number = line.find("line ");
-    const std::size_t colon = number == std::string::npos ? number : line.find(": ", number);
-    return "gnuplot says: " + (colon == std::string::npos ? line : line.substr(colon + 2));
+    return "gnuplot drew nothing";
 }
 
 bool isWhole(const std::string& svg)

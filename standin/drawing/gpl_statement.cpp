@@ -3,6 +3,7 @@
 #include "standin/text.h"
 
 #include <algorithm>
+#include <cstddef>
 
 namespace standin {
 

@@ -10,7 +10,6 @@
 // closed and either the statement ends as well or another call follows as the next argument.
 #pragma once
 
-#include <cstddef>
 #include <stdexcept>
 #include <string>
 #include <string_view>

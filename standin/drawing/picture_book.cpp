@@ -1,5 +1,6 @@
 #include "standin/drawing/picture_book.h"
 
+#include "standin/document_view.h"
 #include "standin/drawing/chart.h"
 #include "standin/drawing/child_process.h"
 #include "standin/drawing/gnuplot.h"
@@ -8,35 +9,15 @@
 #include "standin/text.h"
 
 #include <utility>
+#include <vector>
 
 namespace standin {
 
 namespace {
 
-std::vector<const rapidjson::Value*> graphsOf(const rapidjson::Document& document)
-{
-    std::vector<const rapidjson::Value*> graphs;
-    for (const rapidjson::Value& object : document["objects"].GetArray()) {
-        if (object["type"] == "graph") {
-            graphs.push_back(&object);
-        }
-    }
-    return graphs;
-}
-
-std::size_t countGraphs(const std::list<rapidjson::Document>& documents)
-{
-    std::size_t count = 0;
-    for (const rapidjson::Document& document : documents) {
-        count += graphsOf(document).size();
-    }
-    return count;
-}
-
 /// What is known of a picture before it is drawn.
 struct Sketch {
     std::string title;
-    std::string horizontalAxis;
     std::string script;  ///< empty when there is a reason
     std::string reason;
 };
@@ -45,30 +26,27 @@ Sketch sketch(const rapidjson::Value& graph)
 {
     try {
         const Chart chart = readChart(graph);
-        return {printable(chart.title), chart.xLabel, gnuplotScript(chart), ""};
+        return {printable(chart.title), gnuplotScript(chart), ""};
     } catch (const ChartError& error) {
-        return {"", "", "", error.what()};
+        return {"", "", error.what()};
     }
 }
 
-Picture finish(const Sketch& sketch, const Drawing& drawing, const std::string& id)
+std::vector<Sketch> sketchAll(const std::vector<const rapidjson::Value*>& graphs)
 {
-    Picture picture{"", sketch.reason.empty() ? drawing.reason : sketch.reason, sketch.horizontalAxis};
-    if (picture.reason.empty()) {
-        try {
-            picture.svg = rewriteSvg(drawing.svg, id, sketch.title);
-        } catch (const std::runtime_error& error) {
-            picture.reason = error.what();
-        }
+    std::vector<Sketch> sketches;
+    for (const rapidjson::Value* graph : graphs) {
+        sketches.push_back(sketch(*graph));
     }
-    return picture;
+    return sketches;
 }
 
-std::vector<Drawing> drawAll(const std::vector<Sketch>& sketches, const std::function<void(std::size_t)>& drawn)
+/// Takes the scripts out of the sketches.
+std::vector<Drawing> draw(std::vector<Sketch>& sketches, const std::function<void(std::size_t)>& drawn)
 {
     std::vector<std::string> scripts;
-    for (const Sketch& known : sketches) {
-        scripts.push_back(known.script);
+    for (Sketch& known : sketches) {
+        scripts.push_back(std::move(known.script));
     }
     try {
         return drawWithGnuplot(scripts, drawn);
@@ -77,45 +55,45 @@ std::vector<Drawing> drawAll(const std::vector<Sketch>& sketches, const std::fun
     }
 }
 
+Picture finish(const Sketch& sketch, const Drawing& drawing, const std::string& titleId)
+{
+    const std::string& reason = sketch.reason.empty() ? drawing.reason : sketch.reason;
+    if (!reason.empty()) {
+        return {"", reason};
+    }
+    try {
+        return {rewriteSvg(drawing.svg, titleId, sketch.title), ""};
+    } catch (const SvgError& error) {
+        return {"", error.what()};
+    }
+}
+
 }  // namespace
 
 PictureBook::PictureBook(const std::list<rapidjson::Document>& documents, Progress progress)
     : documents_(documents)
-    , progress_(progress ? std::move(progress) : [](std::size_t, std::size_t) {})
+    , progress_(std::move(progress))
 {
 }
 
-const std::vector<std::vector<Picture>>& PictureBook::pictures()
+const Picture& PictureBook::pictureOf(const rapidjson::Value& graph)
 {
-    if (!pictures_) {
-        pictures_.emplace();
-        const std::size_t total = countGraphs(documents_);
-        std::size_t drawn = 0;
-        for (const rapidjson::Document& document : documents_) {
-            drawn += pictures_->emplace_back(draw(document, drawn, total)).size();
-        }
+    if (pictures_.empty()) {
+        drawAll();
     }
-    return *pictures_;
+    return pictures_.at(&graph);
 }
 
-std::vector<Picture> PictureBook::draw(const rapidjson::Document& document, std::size_t drawnBefore,
-                                       std::size_t total) const
+void PictureBook::drawAll()
 {
-    std::vector<Sketch> sketches;
-    for (const rapidjson::Value* graph : graphsOf(document)) {
-        sketches.push_back(sketch(*graph));
+    const auto graphs = graphsOf(documents_);
+    std::vector<Sketch> sketches = sketchAll(graphs);
+    const std::vector<Drawing> drawings = draw(sketches, [&](std::size_t drawn) { progress_(drawn, graphs.size()); });
+    for (std::size_t i = 0; i < graphs.size(); ++i) {
+        const std::string titleId = "plot-" + std::to_string(i + 1) + "-title";
+        pictures_[graphs[i]] = finish(sketches[i], drawings[i], titleId);
     }
-    if (sketches.empty()) {
-        return {};
-    }
-    const std::vector<Drawing> drawings =
-        drawAll(sketches, [&](std::size_t drawn) { progress_(drawnBefore + drawn, total); });
-    std::vector<Picture> pictures;
-    for (std::size_t i = 0; i < sketches.size(); ++i) {
-        const std::string id = "plot-" + std::to_string(drawnBefore + i + 1);
-        pictures.push_back(finish(sketches[i], drawings[i], id));
-    }
-    return pictures;
+    progress_(graphs.size(), graphs.size());
 }
 
 }  // namespace standin

@@ -6,37 +6,34 @@
 #include <cstddef>
 #include <functional>
 #include <list>
-#include <optional>
 #include <string>
-#include <vector>
+#include <unordered_map>
 
 namespace standin {
 
 /// A graph's picture, or the reason why it has none.
 struct Picture {
-    std::string svg;             ///< from <svg> to </svg>; empty without a picture
-    std::string reason;          ///< why there is none, to follow "This plot cannot be drawn: "; no full stop
-    std::string horizontalAxis;  ///< its label; empty where the statements cannot be read
+    std::string svg;     ///< from <svg> to </svg>; empty without a picture
+    std::string reason;  ///< why there is none, to follow "cannot be drawn: "; no full stop
 };
 
 class PictureBook {
 public:
-    /// Told how many pictures of how many are drawn.
+    /// Told how many pictures of how many are drawn; the last time all of them, whatever became of them.
     using Progress = std::function<void(std::size_t drawn, std::size_t total)>;
 
     /// Draws nothing yet. The documents outlive the book and do not change.
-    explicit PictureBook(const std::list<rapidjson::Document>& documents, Progress progress = {});
+    PictureBook(const std::list<rapidjson::Document>& documents, Progress progress);
 
-    /// For each document, in order, the pictures of its graphs, in their order; drawn when first asked for, with one
-    /// process of gnuplot a document. Their identifiers differ over all documents.
-    const std::vector<std::vector<Picture>>& pictures();
+    /// The picture of a graph of these documents. All are drawn when the first is asked for, by one process of gnuplot.
+    const Picture& pictureOf(const rapidjson::Value& graph);
 
 private:
-    std::vector<Picture> draw(const rapidjson::Document& document, std::size_t drawnBefore, std::size_t total) const;
+    void drawAll();
 
     const std::list<rapidjson::Document>& documents_;
     Progress progress_;
-    std::optional<std::vector<std::vector<Picture>>> pictures_;
+    std::unordered_map<const rapidjson::Value*, Picture> pictures_;
 };
 
 }  // namespace standin

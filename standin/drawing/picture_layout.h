@@ -3,6 +3,7 @@
 
 #include "standin/drawing/chart.h"
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -11,19 +12,28 @@ namespace standin {
 /// One line of the legend: lines of the chart with one legend text are drawn alike and named once.
 struct LegendEntry {
     std::vector<std::string> text;  ///< in lines
-    int colour;                     ///< a different one for each entry, from 0
+    std::size_t category;           ///< of the first of its lines
     bool dashed;
 };
 
-/// From top to bottom: title, plot, marks and label of the horizontal axis, legend, footnote. Lengths are in the
-/// picture's own units, pixels when it is shown at full size; places are counted from the top edge.
+/// Narrow, so that its texts can be read on a phone. From top to bottom: title, plot, marks and label of the horizontal
+/// axis, legend, footnote. Lengths are in the picture's own units, pixels when it is shown at full size; places are
+/// counted from the top edge.
 struct PictureLayout {
     explicit PictureLayout(const Chart& chart);
 
-    static constexpr int width = 640;
-    static constexpr int plotHeight = 360;
-    static constexpr int lineHeight = 21;
-    static constexpr int titleLineHeight = 26;
+    static constexpr int width = 520;
+    static constexpr int rightMargin = 36;  ///< half of the last mark's number stands in it
+    static constexpr int plotHeight = 320;
+
+    static constexpr int titleFont = 17;
+    static constexpr int labelFont = 15;
+    static constexpr int noteFont = 14;  ///< of legend and footnote
+    static constexpr int noteLineHeight = 21;
+
+    static constexpr int noteLeft = 12;
+    static constexpr int legendSampleWidth = 36;
+    static constexpr int legendTextLeft = 58;
 
     std::vector<std::string> title;
     std::vector<std::string> xLabel;

@@ -1,5 +1,7 @@
 #include "standin/drawing/svg_picture.h"
 
+#include "standin/drawing/gnuplot_marks.h"
+
 #include <boost/property_tree/ptree.hpp>
 #include <boost/property_tree/xml_parser.hpp>
 
@@ -7,8 +9,8 @@
 #include <initializer_list>
 #include <limits>
 #include <sstream>
-#include <stdexcept>
 #include <string_view>
+#include <utility>
 
 namespace standin {
 
@@ -29,19 +31,13 @@ std::string attribute(const ptree& element, const std::string& name)
     return attributes == element.not_found() ? "" : attributes->second.get<std::string>(name, "");
 }
 
-/// Gnuplot writes the black that it chose itself and the black that it was asked for in two ways.
-bool isBlack(const std::string& colour)
-{
-    return colour == "black" || colour == "rgb(0,0,0)";
-}
-
-/// Black becomes the colour of the text around the picture; gnuplot's names and fonts go.
+/// Ink becomes the colour of the text around the picture; gnuplot's names and fonts go.
 ptree rewriteAttributes(const ptree& attributes)
 {
     ptree result;
     for (const auto& [name, value] : attributes) {
         if (!isOneOf(name, {"id", "color", "font-family"})) {
-            result.push_back({name, isBlack(value.data()) ? ptree("currentColor") : value});
+            result.push_back({name, isOneOf(value.data(), {"black", inkColourInSvg}) ? ptree("currentColor") : value});
         }
     }
     return result;
@@ -60,8 +56,8 @@ ptree circleFor(const ptree& use)
     std::getline(transform, y, ')');
     transform.ignore(wholeLine, '(');
     std::getline(transform, radius, ')');
-    if (attribute(use, "xlink:href") != "#gpPt6" || !transform) {
-        throw std::runtime_error("gnuplot has written a mark that is not known");
+    if (attribute(use, "xlink:href") != pointMarkInSvg || !transform) {
+        throw SvgError("gnuplot has written a mark that is not known");
     }
     ptree attributes;
     attributes.push_back({"cx", ptree(x)});
@@ -136,7 +132,11 @@ ptree readXml(const std::string& text)
 {
     std::istringstream stream(text);
     ptree tree;
-    read_xml(stream, tree, boost::property_tree::xml_parser::trim_whitespace);
+    try {
+        read_xml(stream, tree, boost::property_tree::xml_parser::trim_whitespace);
+    } catch (const boost::property_tree::xml_parser_error& error) {
+        throw SvgError("gnuplot has written SVG that cannot be read: " + error.message());
+    }
     return tree;
 }
 
@@ -151,15 +151,17 @@ std::string writeXml(const ptree& tree)
 
 }  // namespace
 
-std::string rewriteSvg(const std::string& svg, const std::string& id, const std::string& title)
+std::string rewriteSvg(const std::string& svg, const std::string& titleId, const std::string& title)
 {
     const ptree given = readXml(svg);
-    const ptree& root = given.get_child("svg");
-    const std::string titleId = id + "-title";
+    const auto root = given.find("svg");
+    if (root == given.not_found()) {
+        throw SvgError("gnuplot has written something other than SVG");
+    }
     ptree picture;
-    picture.push_back({attributesKey, rootAttributes(attribute(root, "viewBox"), titleId)});
+    picture.push_back({attributesKey, rootAttributes(attribute(root->second, "viewBox"), titleId)});
     picture.push_back({"title", titleElement(titleId, title)});
-    appendChildren(picture, root);
+    appendChildren(picture, root->second);
     ptree document;
     document.push_back({"svg", std::move(picture)});
     return writeXml(document);

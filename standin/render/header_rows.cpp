@@ -11,9 +11,7 @@ using Kind = HeaderCell::Kind;
 /// The group that stands over a column in a row of groups; null where there is none.
 const HeaderSpan* spanOver(const std::vector<HeaderSpan>& row, std::size_t column)
 {
-    const auto found = std::ranges::find_if(row, [column](const HeaderSpan& span) {
-        return span.firstColumn <= column && column < span.firstColumn + span.columnCount;
-    });
+    const auto found = std::ranges::find_if(row, [column](const HeaderSpan& span) { return span.covers(column); });
     return found == row.end() ? nullptr : &*found;
 }
 
@@ -30,23 +28,18 @@ std::size_t ownRow(const TableGrid& grid, std::size_t column)
 
 std::vector<HeaderCell> headerRow(const TableGrid& grid, std::size_t row)
 {
-    std::vector<HeaderCell> cells;
     const std::size_t rowCount = grid.groupRows.size() + 1;
-    std::size_t column = 0;
-    while (column < grid.columnHeaders.size()) {
+    std::vector<HeaderCell> cells;
+    for (std::size_t column = 0; column < grid.columnHeaders.size(); ++column) {
         const std::size_t own = ownRow(grid, column);
-        const HeaderSpan* span = row < own ? spanOver(grid.groupRows[row], column) : nullptr;
-        if (span != nullptr) {
-            cells.push_back({Kind::Group, span->label, span->columnCount});
-            column += span->columnCount;
-            continue;
-        }
-        if (row < own) {
+        const HeaderSpan* group = row < own ? spanOver(grid.groupRows[row], column) : nullptr;
+        if (group != nullptr && group->firstColumn == column) {
+            cells.push_back({Kind::Group, group->label, group->columnCount});
+        } else if (group == nullptr && row < own) {
             cells.push_back({Kind::Corner, ""});
         } else if (row == own) {
             cells.push_back({Kind::Column, grid.columnHeaders[column], 1, rowCount - own});
         }
-        ++column;
     }
     return cells;
 }

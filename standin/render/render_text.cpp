@@ -1,10 +1,10 @@
 #include "standin/render/render_text.h"
 
+#include "standin/document_view.h"
 #include "standin/render/footnote_marks.h"
 #include "standin/render/table_grid.h"
 #include "standin/render/text_alignment.h"
 #include "standin/render/text_table.h"
-#include "standin/text.h"
 #include "standin/text_wrapping.h"
 
 #include <string_view>
@@ -20,16 +20,14 @@ constexpr std::string_view bold = "\x1B[1m";
 constexpr std::string_view dim = "\x1B[2m";
 constexpr std::string_view reset = "\x1B[0m";
 
-/// The marks of the footnotes that a title refers to. A reference to a footnote that does not exist has none.
-std::string referenceMarks(const rapidjson::Value& table)
+/// " [a, b]" for the marks of a title, nothing where it has none.
+std::string inBrackets(const std::vector<std::string>& marks)
 {
-    std::string marks;
-    for (const rapidjson::Value& reference : table["footnoteRefs"].GetArray()) {
-        if (reference.GetUint() < table["footnotes"].Size()) {
-            marks += (marks.empty() ? " [" : ", ") + footnoteMark(reference.GetUint());
-        }
+    std::string text;
+    for (const std::string& mark : marks) {
+        text += (text.empty() ? " [" : ", ") + mark;
     }
-    return marks.empty() ? "" : marks + "]";
+    return text.empty() ? "" : text + "]";
 }
 
 /// The text of a run, written from top to bottom.
@@ -45,13 +43,13 @@ public:
         if (!text_.empty()) {
             add({"", ""}, plain);
         }
-        addTitle(document["title"].GetString(), '=');
+        addTitle(shownText(document["title"]), '=');
         for (const rapidjson::Value& object : document["objects"].GetArray()) {
             add({""}, plain);
-            if (object["type"] == "table") {
-                addTable(object);
-            } else {
+            if (isGraph(object)) {
                 addGraph(object);
+            } else {
+                addTable(object);
             }
         }
     }
@@ -62,24 +60,23 @@ private:
     void addTable(const rapidjson::Value& table)
     {
         if (!table["hideTitle"].GetBool()) {
-            addTitle(table["title"].GetString() + referenceMarks(table), '-');
+            addTitle(titleOf(table) + inBrackets(titleMarks(table)), '-');
         }
         add(drawTable(layOut(table), style_.width), plain);
-        const auto footnotes = table["footnotes"].GetArray();
-        for (rapidjson::SizeType i = 0; i < footnotes.Size(); ++i) {
-            addNote(footnoteMark(i) + ". ", footnotes[i].GetString());
+        for (const Footnote& footnote : footnotesOf(table)) {
+            addNote(footnote.mark + ". ", footnote.text);
         }
     }
 
     void addGraph(const rapidjson::Value& graph)
     {
         const std::string points = std::to_string(graph["data"]["xdata"].Size()) + " points";
-        addNote("[plot] ", graph["name"].GetString() + (", " + points));
+        addNote("[plot] ", titleOf(graph) + ", " + points);
     }
 
     void addTitle(const std::string& title, char underline)
     {
-        const std::vector<std::string> lines = wrapText(printable(title), style_.width);
+        const std::vector<std::string> lines = wrapText(title, style_.width);
         add(lines, bold);
         add({std::string(widest(lines), underline)}, plain);
     }
@@ -87,14 +84,14 @@ private:
     void addNote(const std::string& lead, const std::string& text)
     {
         const std::string indent(lead.size(), ' ');
-        add(hangingLines(lead, indent, printable(text), style_.width), dim);
+        add(hangingLines(lead, indent, text, style_.width), dim);
     }
 
-    void add(const std::vector<std::string>& lines, std::string_view look)
+    void add(const std::vector<std::string>& lines, std::string_view style)
     {
         for (const std::string& line : lines) {
-            const bool shows = style_.colours && !look.empty() && !line.empty();
-            text_.append(shows ? look : "").append(line).append(shows ? reset : "").append("\n");
+            const bool shows = style_.colours && !style.empty() && !line.empty();
+            text_.append(shows ? style : "").append(line).append(shows ? reset : "").append("\n");
         }
     }
 

@@ -18,7 +18,7 @@ std::vector<HeaderSpan> spansOver(const std::vector<HeaderSpan>& groupRow, std::
     std::vector<HeaderSpan> spans;
     for (const HeaderSpan& span : groupRow) {
         const std::size_t begin = std::max(span.firstColumn, first);
-        const std::size_t end = std::min(span.firstColumn + span.columnCount, first + count);
+        const std::size_t end = std::min(span.endColumn(), first + count);
         if (begin < end) {
             spans.push_back({span.label, begin - first, end - begin});
         }
@@ -45,9 +45,7 @@ TableGrid columnsOf(const TableGrid& grid, std::size_t first, std::size_t count)
 /// How many groups a cut before this column would go through.
 std::ptrdiff_t cutGroups(const TableGrid& grid, std::size_t column)
 {
-    const auto isCut = [column](const HeaderSpan& span) {
-        return span.firstColumn < column && column < span.firstColumn + span.columnCount;
-    };
+    const auto isCut = [column](const HeaderSpan& span) { return span.firstColumn < column && span.covers(column); };
     std::ptrdiff_t count = 0;
     for (const auto& groupRow : grid.groupRows) {
         count += std::ranges::count_if(groupRow, isCut);

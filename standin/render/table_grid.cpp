@@ -1,6 +1,6 @@
 #include "standin/render/table_grid.h"
 
-#include "standin/text.h"
+#include "standin/document_view.h"
 
 #include <array>
 #include <charconv>
@@ -11,18 +11,18 @@ namespace standin {
 
 namespace {
 
-std::string textOf(const rapidjson::Value& value, int decimals)
+std::string cellText(const rapidjson::Value& value, int decimals)
 {
     if (value.IsNumber()) {
         return formatFixed(value.GetDouble(), decimals);
     }
-    return value.IsString() ? printable({value.GetString(), value.GetStringLength()}) : std::string();
+    return value.IsString() ? shownText(value) : std::string();
 }
 
 std::string shownLabel(const rapidjson::Value& group)
 {
     const bool shown = group["showLabel"].GetBool() && group["label"].IsString();
-    const std::string label = shown ? printable(group["label"].GetString()) : "";
+    const std::string label = shown ? shownText(group["label"]) : "";
     return label.find_first_not_of(' ') == std::string::npos ? "" : label;
 }
 
@@ -37,7 +37,7 @@ void collectHeaders(const rapidjson::Value& group, std::size_t depth, int decima
         if (child.HasMember("children")) {
             collectHeaders(child, depth + 1, decimals, grid);
         } else {
-            grid.columnHeaders.push_back(textOf(child["value"], decimals));
+            grid.columnHeaders.push_back(cellText(child["value"], decimals));
         }
     }
     const std::string label = shownLabel(group);
@@ -54,7 +54,7 @@ void collectRowHeaders(const rapidjson::Value& group, const std::string& prefix,
             const std::string label = shownLabel(child);
             collectRowHeaders(child, label.empty() ? prefix : prefix + label + " / ", decimals, headers);
         } else {
-            headers.push_back(prefix + textOf(child["value"], decimals));
+            headers.push_back(prefix + cellText(child["value"], decimals));
         }
     }
 }
@@ -72,7 +72,7 @@ TableGrid layOut(const rapidjson::Value& table)
     for (const rapidjson::Value& row : table["cells"].GetArray()) {
         std::vector<std::string>& texts = grid.body.emplace_back();
         for (const rapidjson::Value& cell : row.GetArray()) {
-            texts.push_back(textOf(cell, decimals));
+            texts.push_back(cellText(cell, decimals));
         }
     }
     return grid;

@@ -14,6 +14,10 @@ struct HeaderSpan {
     std::string label;
     std::size_t firstColumn;
     std::size_t columnCount;
+
+    /// The column after its last.
+    std::size_t endColumn() const { return firstColumn + columnCount; }
+    bool covers(std::size_t column) const { return firstColumn <= column && column < endColumn(); }
 };
 
 /// Every text in it is `printable`.

@@ -114,17 +114,13 @@ void addOptions(CLI::App& app, RawOptions& raw)
     app.footer(footer);
 }
 
-OutputRequest outputRequest(const std::string& file)
+OutputRequest outputRequest(const std::string& name)
 {
-    if (file.ends_with('/')) {
-        return {file, nullptr};
+    const OutputWriter writer = writerFor(name);
+    if (writer == nullptr) {
+        throw InputError(name, "the name of an output must end in " + knownEndings());
     }
-    const Renderer render = rendererFor(file);
-    if (render == nullptr) {
-        throw InputError(file, "the name of an output file must end in " + knownEndings() +
-                                   ", that of a folder for plots in a slash");
-    }
-    return {file, render};
+    return {name, writer};
 }
 
 /// No output may take the place of an input or of another output.
@@ -135,7 +131,7 @@ void requireDistinctFiles(const Options& options)
     std::erase(taken, std::filesystem::path());
     std::vector<std::filesystem::path> written;
     for (const OutputRequest& output : options.outputs) {
-        written.push_back(output.file);
+        written.push_back(output.place);
     }
     if (!options.traceFile.empty()) {
         written.push_back(options.traceFile);

@@ -1,7 +1,7 @@
 // The command line of bldatman-run.
 #pragma once
 
-#include "standin/render/output_formats.h"
+#include "standin/runner/output_formats.h"
 
 #include <filesystem>
 #include <optional>
@@ -20,8 +20,8 @@ enum ExitStatus : int {
 };
 
 struct OutputRequest {
-    std::filesystem::path file;
-    Renderer render;  ///< null: `file` is a folder for the plots
+    std::filesystem::path place;  ///< a file, or a folder
+    OutputWriter write;
 };
 
 struct Options {

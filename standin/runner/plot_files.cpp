@@ -1,15 +1,13 @@
 #include "standin/runner/plot_files.h"
 
+#include "standin/document_view.h"
 #include "standin/runner/files.h"
-#include "standin/text.h"
 #include "standin/unicode.h"
 #include "standin/utf8.h"
 
-#include <string>
+#include <algorithm>
 #include <string_view>
 #include <system_error>
-#include <utility>
-#include <vector>
 
 namespace standin {
 
@@ -22,13 +20,9 @@ std::string fileNameFor(std::string_view title)
 {
     constexpr std::size_t longest = 120;
     std::string name;
-    for (std::size_t i = 0; i < title.size();) {
+    for (std::size_t i = 0; i < title.size() && name.size() < longest;) {
         const CodePoint character = codePointAt(title, i);
-        const bool kept = isLetterOrDigit(character.value);
-        if (name.size() + character.length > longest) {
-            break;
-        }
-        if (kept) {
+        if (isLetterOrDigit(character.value)) {
             name += title.substr(i, character.length);
         } else if (!name.empty() && name.back() != '-') {
             name += '-';
@@ -45,58 +39,65 @@ std::string padded(std::size_t number, std::size_t largest)
     return std::string(width - digits.size(), '0') + digits;
 }
 
-struct Plot {
-    std::string name;
+struct PlotFile {
+    fs::path file;
     const Picture* picture;
+
+    bool isDrawn() const { return !picture->svg.empty(); }
 };
 
-std::vector<Plot> plotsOf(const Report& report)
+std::vector<PlotFile> plotFilesOf(const Report& report, const fs::path& folder)
 {
-    std::vector<Plot> plots;
-    auto pictures = report.pictures.pictures().begin();
-    for (const rapidjson::Document& document : report.documents) {
-        auto picture = (pictures++)->begin();
-        for (const rapidjson::Value& object : document["objects"].GetArray()) {
-            if (object["type"] == "graph") {
-                plots.push_back({object["name"].GetString(), &*picture++});
-            }
-        }
+    const auto graphs = graphsOf(report.documents);
+    std::vector<PlotFile> plots;
+    for (const rapidjson::Value* graph : graphs) {
+        const std::string number = padded(plots.size() + 1, graphs.size());
+        plots.push_back({folder / fs::u8path(number + "-" + fileNameFor(titleOf(*graph)) + ".svg"),
+                         &report.pictures.pictureOf(*graph)});
     }
     return plots;
 }
 
-void writePlot(const Plot& plot, const fs::path& file)
+void makeFolder(const fs::path& folder)
 {
-    if (plot.picture->svg.empty()) {
-        throw OutputError(file.string() + ": cannot be drawn: " + plot.picture->reason);
+    std::error_code error;
+    fs::create_directories(folder, error);
+    if (error) {
+        throw OutputError(folder.string() + ": cannot be made: " + error.message());
     }
-    OutputFile output(file);
+}
+
+void writePlot(const PlotFile& plot)
+{
+    if (!plot.isDrawn()) {
+        throw OutputError(plot.file.string() + ": cannot be drawn: " + plot.picture->reason);
+    }
+    OutputFile output(plot.file);
     output.write("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n" + plot.picture->svg + "\n");
     output.commit();
 }
 
 }  // namespace
 
-void writePlotFiles(const Report& report, const fs::path& folder)
+std::vector<std::string> writePlotFiles(const Report& report, const fs::path& folder)
 {
-    const std::vector<Plot> plots = plotsOf(report);
-    std::error_code error;
-    fs::create_directories(folder, error);
-    if (error) {
-        throw OutputError(folder.string() + ": cannot be made: " + error.message());
+    const std::vector<PlotFile> plots = plotFilesOf(report, folder);
+    try {
+        if (std::ranges::any_of(plots, &PlotFile::isDrawn)) {
+            makeFolder(folder);
+        }
+    } catch (const OutputError& error) {
+        return {error.what()};
     }
-    std::string failures;
-    for (std::size_t i = 0; i < plots.size(); ++i) {
-        const std::string name = padded(i + 1, plots.size()) + "-" + fileNameFor(plots[i].name) + ".svg";
+    std::vector<std::string> failures;
+    for (const PlotFile& plot : plots) {
         try {
-            writePlot(plots[i], folder / fs::u8path(name));
-        } catch (const OutputError& failure) {
-            failures += (failures.empty() ? "" : "\n") + std::string(failure.what());
+            writePlot(plot);
+        } catch (const OutputError& error) {
+            failures.emplace_back(error.what());
         }
     }
-    if (!failures.empty()) {
-        throw OutputError(failures);
-    }
+    return failures;
 }
 
 }  // namespace standin

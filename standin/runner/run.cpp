@@ -4,19 +4,14 @@
 #include "standin/csv_reader.h"
 #include "standin/dictionary_reader.h"
 #include "standin/input_error.h"
-#include "standin/render/render_text.h"
 #include "standin/runner/files.h"
 #include "standin/runner/messages.h"
 #include "standin/runner/module_library.h"
-#include "standin/runner/output_style.h"
-#include "standin/runner/plot_files.h"
-#include "standin/runner/progress_line.h"
+#include "standin/runner/outputs.h"
 #include "standin/session.h"
 #include "standin/utf8.h"
 
 #include <algorithm>
-#include <iostream>
-#include <new>
 #include <optional>
 #include <string>
 #include <vector>
@@ -109,40 +104,21 @@ private:
 
     void writeDocuments()
     {
-        if (options_.outputs.empty()) {
-            attempt([this] { writeStandardOutput(); });
+        for (const std::string& failure : writeOutputs(session_, options_)) {
+            reportNotWritten(failure);
         }
-        for (const OutputRequest& output : options_.outputs) {
-            attempt([&] { writeOutput(output); });
-        }
-    }
-
-    void writeStandardOutput() const
-    {
-        std::cout << renderText(session_.documents, standardOutputStyle()) << std::flush;
-        if (!std::cout) {
-            throw OutputError("the standard output cannot be written");
-        }
-    }
-
-    void writeOutput(const OutputRequest& output) const
-    {
-        if (output.render == nullptr) {
-            writePlotFiles(report_, output.file);
-            return;
-        }
-        OutputFile file(output.file);
-        file.write(output.render(report_));
-        file.commit();
     }
 
     void beginTrace()
     {
-        if (!options_.traceFile.empty()) {
-            attempt([this] {
-                trace_.emplace(options_.traceFile);
-                session_.monitor.traceTo(&trace_->stream());
-            });
+        if (options_.traceFile.empty()) {
+            return;
+        }
+        try {
+            trace_.emplace(options_.traceFile);
+            session_.monitor.traceTo(&trace_->stream());
+        } catch (const OutputError& error) {
+            reportNotWritten(error.what());
         }
     }
 
@@ -150,24 +126,20 @@ private:
     void finishTrace()
     {
         session_.monitor.traceTo(nullptr);
-        if (trace_) {
-            attempt([this] { trace_->commit(); });
+        if (!trace_) {
+            return;
+        }
+        try {
+            trace_->commit();
+        } catch (const OutputError& error) {
+            reportNotWritten(error.what());
         }
     }
 
-    /// Writes something; that it could not be written ends up in the exit status, and the next is attempted.
-    template <class Write>
-    void attempt(Write write)
+    void reportNotWritten(const std::string& failure)
     {
-        try {
-            write();
-        } catch (const OutputError& error) {
-            writeMessage(error.what());
-            raise(exitOutputNotWritten);
-        } catch (const std::bad_alloc&) {
-            writeMessage("an output cannot be written: there is not enough memory");
-            raise(exitOutputNotWritten);
-        }
+        writeMessage(failure);
+        raise(exitOutputNotWritten);
     }
 
     void raise(ExitStatus status) { status_ = std::max<int>(status_, status); }
@@ -177,10 +149,6 @@ private:
     std::optional<OutputFile> trace_;
     std::optional<ModuleLibrary> library_;
     Session session_;
-    ProgressLine drawing_{"Drawing plots"};
-    PictureBook pictures_{session_.documents,
-                          [this](std::size_t drawn, std::size_t total) { drawing_.show(drawn, total); }};
-    Report report_{session_.documents, options_.language, pictures_};
     int status_ = exitDelivered;
 };
 

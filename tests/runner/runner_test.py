@@ -1,7 +1,9 @@
 """Runs bldatman-run the way a user does: runner_test.py PROGRAM MODULE BAD_MODULE"""
 
+import errno
 import json
 import os
+import re
 import subprocess
 import sys
 import tempfile
@@ -17,6 +19,7 @@ GETTERS = ("CmnBpr CmaDic CmaGlb CmaMch CmaObv CmaSym CmaSys CmnDic CmnDmo CmnGl
 REFUSED_SETTINGS = ["Error: get_Subcommand_Global sub-command : ",
                     "BldatmanInputSetting::start: Standard exception: Error encountered while syntax parsing.",
                     "bldatman_entry: Step3 Unknown error occurred."]
+SVG = "{http://www.w3.org/2000/svg}"
 
 
 def ended(which="the command", cases=5):
@@ -123,6 +126,57 @@ class Plots(Runner):
         self.assertTrue(report.startswith('<!DOCTYPE html>\n<html lang="de">'))
         self.assertEqual((report.count("<svg "), report.count("<circle "), report.count("<table>")), (2, 10, 1))
 
+    def test_show_what_the_document_says(self):
+        self.expect(0, [], "d.csv", "-c", "VARIABLE=a WITH=b PLOT(RATIO REFLINE AGREEMENT_LIMITS=CI CI_MEANDIFF)",
+                    "-o", "x.json", "-o", "./")
+        for name, graph in zip(self.NAMES, json.loads(self.read("x.json"))["documents"][0]["objects"]):
+            picture, data = self.read(name), graph["data"]
+            circles = [(float(cx), -float(cy))
+                       for cx, cy in re.findall(r'<circle cx="([\d.]+)" cy="([\d.]+)"', picture)]
+            # Lines end at the right edge of the plot, those of the legend at its left.
+            lines = self.lines_of(picture)
+            legend = [line for line in lines if line[3] < 100]
+            drawn = [line for line in lines if line[3] > 100]
+            order = "y0 y2 y1 y3 y5 y4 y6 y8 y7 y9".split()
+            levels = [data[level][0] for level in order]
+            self.expect_one_scale([-cy for _, cy in sorted(circles)] + [line[2] for line in drawn],
+                                  [y for _, y in sorted(zip(data["xdata"], data["ydata"]))] + levels)
+            # The colour tells the legend's text, a dash the bounds of an interval.
+            texts = ["cref", "calimits", "crefALimitsCI", "cmean", "cMeanDiffCI"]
+            self.assertEqual([line[0] for line in legend], [drawn[i][0] for i in (0, 1, 2, 7, 8)])
+            self.assertEqual(len({line[0] for line in legend}), 5)
+            self.assertEqual([bool(line[1]) for line in drawn], [level in "y1 y3 y4 y6 y7 y9" for level in order])
+            shown = re.findall(r"<text>([^<]*)</text>", picture)
+            self.assertEqual([text for text in shown if text in [data[column][0] for column in texts]],
+                             [data[column][0] for column in texts])
+            self.assertIn(graph["name"], shown)
+
+    @staticmethod
+    def lines_of(picture):
+        """Colour, dash, height and right end of each line of the plot and of the legend, which are thicker than the frame."""
+        lines = []
+        for group in xml.etree.ElementTree.fromstring(picture).iter(SVG + "g"):
+            for path in group.findall(SVG + "path") if group.get("stroke-width") == "2.00" else []:
+                height, end = re.match(r"M[\d.]+,([\d.]+) L([\d.]+),", path.get("d")).groups()
+                lines.append((path.get("stroke"), path.get("stroke-dasharray"), float(height), float(end)))
+        return lines
+
+    def expect_one_scale(self, heights, values):
+        """Heights grow downwards, by the same for each unit of the values; they have two decimals."""
+        self.assertEqual(len(heights), len(values))
+        (least, bottom), (largest, top) = min(zip(values, heights)), max(zip(values, heights))
+        unit = (bottom - top) / (largest - least)
+        for height, value in zip(heights, values):
+            self.assertAlmostEqual(height, bottom - unit * (value - least), delta=0.021)
+
+    def test_that_overlap_stand_side_by_side(self):
+        self.write("d.csv", "a,b\n" + 3 * "1,2\n" + "3,5\n")
+        self.expect(0, [], "d.csv", "-c", "VARIABLE=a WITH=b", "-o", "./")
+        circles = re.findall(r'<circle cx="([\d.]+)" cy="([\d.]+)"', self.read(self.NAMES[0]))
+        left, middle, right = sorted(float(cx) for cx, cy in circles if cy == circles[0][1])
+        self.assertAlmostEqual(middle - left, right - middle, delta=0.021)
+        self.assertGreater(right - middle, 5)
+
     def test_are_files_of_their_own_in_a_folder(self):
         self.write("kept.svg", "as it was")
         for _ in range(2):
@@ -132,7 +186,7 @@ class Plots(Runner):
         self.assertEqual(self.read("kept.svg"), "as it was")
         for name in self.NAMES:
             self.assertEqual(xml.etree.ElementTree.parse(os.path.join(self.folder, name)).getroot().tag,
-                             "{http://www.w3.org/2000/svg}svg")
+                             SVG + "svg")
 
     def test_have_names_that_every_system_takes(self):
         self.write("odd.csv", '../x/\\:*?,"<a>|\n",' + 300 * "é" + "\n1,2,3\n3,5,4\n4,4,4\n")
@@ -147,11 +201,10 @@ class Plots(Runner):
         self.assertEqual(self.expect(0, [], "d.csv", "-c", GOOD, "-o", "x.html", "-o", "x.txt"), "")
         self.assertEqual(self.read("x.txt"), before)
         self.assertIn("This plot cannot be drawn: gnuplot is not installed.", self.read("x.html"))
-        self.expect(3, [f"bldatman-run: plots/{self.NAMES[0][:1]}-Bland-Altman-Plot-of-Differences-a-b.svg: cannot be "
-                        "drawn: gnuplot is not installed"], "d.csv", "-c", GOOD, "-o", "plots/")
+        self.expect(3, [f"bldatman-run: plots/{self.NAMES[0]}: cannot be drawn: gnuplot is not installed"], "d.csv", "-c", GOOD, "-o", "plots/")
         self.expect(1, ["bldatman_entry: Step5 Unknown error occurred.", ended()], "d.csv", "-c", "VARIABLE=a",
                     "-o", "none.html", "-o", "none/")
-        self.assertEqual(self.files(), ["d.csv", "plots", "x.html", "x.txt"])
+        self.assertEqual(self.files(), ["d.csv", "x.html", "x.txt"])
 
     def test_that_gnuplot_does_not_draw_say_what_it_said(self):
         for program, reason in (("echo 'line 3: out of ink' >&2", "gnuplot says: out of ink"),
@@ -163,8 +216,15 @@ class Plots(Runner):
             self.assertIn(f"This plot cannot be drawn: {reason}.", self.read("x.html"))
             self.assertEqual(self.read("x.html").count("This plot cannot be drawn: "), 2)
 
+    def test_keep_their_colours_whatever_else_is_drawn(self):
+        def colour_of_mean(*keywords):
+            self.expect(0, [], "d.csv", "-c", f"VARIABLE=a WITH=b PLOT({' '.join(keywords)})", "-o", "./")
+            return self.lines_of(self.read(self.NAMES[0]))[-1][0]
+
+        self.assertEqual(colour_of_mean(), colour_of_mean("REFLINE", "AGREEMENT_LIMITS"))
+
     def test_folder_that_cannot_be_made_is_an_output_that_cannot_be_written(self):
-        self.expect(3, [f"bldatman-run: d.csv/: cannot be made: {os.strerror(17)}"], "d.csv", "-c", GOOD, "-o", "d.csv/",
+        self.expect(3, [f"bldatman-run: d.csv/: cannot be made: {os.strerror(errno.EEXIST)}"], "d.csv", "-c", GOOD, "-o", "d.csv/",
                     "-o", "x.txt")
         self.assertEqual(self.read("d.csv"), DATA)
         self.assertIn("x.txt", self.files())
@@ -214,15 +274,14 @@ class BadInput(Runner):
                 "DATA.csv is required": ["-c", GOOD],
                 "--command excludes --command-file": ["d.csv", "-c", GOOD, "-f", "c.bld"],
                 "The following argument was not expected: --page": ["d.csv", "-c", GOOD, "--page"],
-                "x.png: the name of an output file must end in .json, .html or .txt, that of a folder for plots in a "
-                "slash": ["d.csv", "-c", GOOD, "-o", "x.png"]}.items():
+                "x.png: the name of an output must end in .html, .json, .txt or / (a folder for the plots)": ["d.csv", "-c", GOOD, "-o", "x.png"]}.items():
             self.expect_nothing_run(message, *arguments)
 
     def test_in_a_file(self):
         self.write("ragged.csv", "a,b\n1,2\n1\n")
         self.write("open.bld", f"BLDATMAN {GOOD};\nBLDATMAN VARIABLE=a")
         self.write("unknown.json", '{"variables": {"z": {}}}')
-        missing = os.strerror(2)
+        missing = os.strerror(errno.ENOENT)
         for message, arguments in {
                 f"none.csv: cannot be read: {missing}": ["none.csv", "-c", GOOD],
                 f"none.bld: cannot be read: {missing}": ["d.csv", "-f", "none.bld"],
@@ -255,7 +314,7 @@ class BrokenContract(Runner):
 class UnwritableOutput(Runner):
     def test_leaves_the_other_outputs_and_no_partial_file(self):
         os.mkdir(os.path.join(self.folder, "folder.json"))
-        self.expect(3, [f"bldatman-run: none/x.json: cannot be written: {os.strerror(2)}",
+        self.expect(3, [f"bldatman-run: none/x.json: cannot be written: {os.strerror(errno.ENOENT)}",
                         "bldatman-run: folder.json: cannot be written: it is not a file"],
                     "d.csv", "-c", GOOD, "-o", "none/x.json", "-o", "folder.json", "-o", "x.txt")
         self.assertEqual(self.files(), ["d.csv", "folder.json", "x.txt"])
@@ -263,7 +322,7 @@ class UnwritableOutput(Runner):
 
     def test_may_be_one_that_cannot_even_be_looked_at(self):
         name = 300 * "x" + ".json"
-        self.expect(3, [f"bldatman-run: {name}: cannot be written: {os.strerror(36)}"],
+        self.expect(3, [f"bldatman-run: {name}: cannot be written: {os.strerror(errno.ENAMETOOLONG)}"],
                     "d.csv", "-c", GOOD, "-o", name, "--trace", "t.txt")
         self.assertEqual(self.files(), ["d.csv", "t.txt"])
 
@@ -300,7 +359,7 @@ class UnwritableOutput(Runner):
             self.assertTrue(os.path.islink(os.path.join(self.folder, "link.json")))
 
     def test_counts_for_more_than_a_command_without_a_document(self):
-        self.expect(3, [f"bldatman-run: none/t.txt: cannot be written: {os.strerror(2)}",
+        self.expect(3, [f"bldatman-run: none/t.txt: cannot be written: {os.strerror(errno.ENOENT)}",
                         "bldatman_entry: Step5 Unknown error occurred.", ended()],
                     "d.csv", "-c", "VARIABLE=a", "--trace", "none/t.txt")
 

@@ -1,10 +1,7 @@
 #include "standin/drawing/chart.h"
-#include "standin/drawing/gnuplot_script.h"
 
 #include <gmock/gmock.h>
 
-#include <cmath>
-#include <limits>
 #include <string>
 #include <vector>
 
@@ -12,11 +9,6 @@ namespace standin {
 namespace {
 
 using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::Not;
-
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
-constexpr double infinity = std::numeric_limits<double>::infinity();
 
 /// A graph as a document has it.
 class Graph {
@@ -105,6 +97,8 @@ TEST(Chart, SaysWhichStatementCannotBeFollowedAndWhy)
              {"PAGE: begin()", R"(nothing is known of "begin" in a statement of kind "PAGE")"},
              {"ELEMENT: area(position(x*y))", R"(nothing is known of "area" in a statement of kind "ELEMENT")"},
              {"ELEMENT: point(position(x*y), size(x))", R"(nothing is known of "size" in "point")"},
+             {"ELEMENT: point(position(x*y), position(x*y))", R"(nothing is known of "position" in "point")"},
+             {"GRAPH: begin(x)", R"(nothing is known of "x" in "begin")"},
              {"ELEMENT: point()", R"("point" lacks "position")"},
              {"ELEMENT: point(position(x))", R"("position" takes a product)"},
              {"ELEMENT: point(position(x*y*y))", "a position has two dimensions"},
@@ -123,63 +117,6 @@ TEST(Chart, SaysWhichStatementCannotBeFollowedAndWhy)
     }
     EXPECT_EQ(Graph().add("GRAPH: end()").reasonAgainst("ELEMENT: point(position(x*y))"),
               "statement 10, ELEMENT: point(position(x*y)): an element stands outside the graph");
-}
-
-TEST(GnuplotScript, GivesGnuplotNothingToRunOrToInterpret)
-{
-    Chart chart;
-    chart.title = chart.xLabel = chart.yLabel = chart.footnote = "`id` $(id) \"\n id\n!id\n@x {/=9 a}_b^c %d \\n 'q' 95.00";
-    chart.lines.push_back({{0, 1}, {1, 1}, chart.title, false});
-    const std::string script = gnuplotScript(chart);
-    EXPECT_THAT(script, Not(HasSubstr("\nid")));
-    for (const char* raw : {"`", "$(", "!", "@x", "{", "^", "\\n", "'q'", "\\0569"}) {
-        EXPECT_THAT(script, Not(HasSubstr(raw)));
-    }
-    EXPECT_THAT(script, HasSubstr(R"(\071\065\056\060\060)"));
-}
-
-TEST(GnuplotScript, LeavesOutWhatIsNotFinite)
-{
-    Chart chart;
-    chart.points.push_back({{1, notANumber, 3, infinity, 5}, {1, 2, -infinity, 4, 5}, true});
-    chart.lines.push_back({{0, 6}, {notANumber, notANumber}, "none", false});
-    const std::string script = gnuplotScript(chart);
-    EXPECT_THAT(script, HasSubstr("<< END\n1 1\n5 5\nEND\n"));
-    EXPECT_THAT(script, Not(HasSubstr("$layer1")));
-    EXPECT_THAT(script, HasSubstr("nohead"));  // its place in the legend is still there
-}
-
-TEST(GnuplotScript, ChoosesAxesThatShowEverything)
-{
-    const auto axes = [](const std::vector<double>& x, const std::vector<double>& y) {
-        Chart chart;
-        chart.points.push_back({x, y, true});
-        const std::string script = gnuplotScript(chart);
-        const std::size_t begin = script.find("set xrange");
-        return script.substr(begin, script.find("set border") - begin);
-    };
-    EXPECT_EQ(axes({0, 100}, {-1, 1}), "set xrange [-5:105]\nset yrange [-1.1:1.1]\n");
-    EXPECT_EQ(axes({50, 50}, {0, 0}), "set xrange [45:55]\nset yrange [-1:1]\n");
-    EXPECT_EQ(axes({}, {}), "set xrange [-1:1]\nset yrange [-1:1]\n");
-    EXPECT_THAT(axes({8, std::nextafter(8, 9)}, {notANumber, 2}), HasSubstr("[7."));
-    EXPECT_THROW(axes({1, 2}, {-1.7e308, 1.7e308}), ChartError);
-}
-
-TEST(GnuplotScript, DrawsAcrossALevelThatWouldBeTooShortToSee)
-{
-    Chart chart;
-    chart.points.push_back({{5, 5}, {1, 2}, true});
-    chart.lines.push_back({{5, 5}, {1.5, 1.5}, "level", false});
-    EXPECT_THAT(gnuplotScript(chart), HasSubstr("4.5 1.5\n5.5 1.5\n"));
-}
-
-TEST(GnuplotScript, DrawsUndodgedPointsOfOnePlaceOnce)
-{
-    Chart chart;
-    chart.points.push_back({{0, 500, 500.0001, 1000}, {0, 500, 500, 1000}, false});
-    EXPECT_THAT(gnuplotScript(chart), HasSubstr("0 0\n500 500\n1000 1000\nEND"));
-    chart.points[0].dodged = true;
-    EXPECT_THAT(gnuplotScript(chart), HasSubstr("0 0\n500 500\n500.0001 500\n1000 1000\nEND"));
 }
 
 }  // namespace

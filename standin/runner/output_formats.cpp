@@ -1,0 +1,73 @@
+#include "standin/runner/output_formats.h"
+
+#include "standin/render/render_html.h"
+#include "standin/render/render_json.h"
+#include "standin/render/render_text.h"
+#include "standin/runner/files.h"
+#include "standin/runner/plot_files.h"
+
+#include <algorithm>
+#include <array>
+
+namespace standin {
+
+namespace {
+
+std::string jsonOf(const Report& report)
+{
+    return renderJson(report.documents);
+}
+
+std::string textOf(const Report& report)
+{
+    return renderText(report.documents);
+}
+
+template <std::string (*render)(const Report&)>
+std::vector<std::string> writeWhole(const Report& report, const std::filesystem::path& file)
+{
+    try {
+        // Rendered first: nothing is begun beside the file for as long as that takes.
+        const std::string text = render(report);
+        OutputFile output(file);
+        output.write(text);
+        output.commit();
+    } catch (const OutputError& error) {
+        return {error.what()};
+    }
+    return {};
+}
+
+struct OutputFormat {
+    std::string_view ending;
+    OutputWriter write;
+};
+
+constexpr std::array<OutputFormat, 4> formats = {{
+    {".html", writeWhole<renderHtml>},
+    {".json", writeWhole<jsonOf>},
+    {".txt", writeWhole<textOf>},
+    {"/", writePlotFiles},
+}};
+
+}  // namespace
+
+OutputWriter writerFor(std::string_view name)
+{
+    const auto* format =
+        std::ranges::find_if(formats, [name](const auto& known) { return name.ends_with(known.ending); });
+    return format == formats.end() ? nullptr : format->write;
+}
+
+std::string knownEndings()
+{
+    std::string endings;
+    for (const OutputFormat& format : formats) {
+        const std::string_view separator = &format == &formats.back() ? " or " : ", ";
+        endings += endings.empty() ? "" : separator;
+        endings += format.ending;
+    }
+    return endings + " (a folder for the plots)";
+}
+
+}  // namespace standin
