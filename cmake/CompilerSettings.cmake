@@ -18,8 +18,18 @@ add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conver
 # GCC 12 sees overlaps in the standard library's own string concatenation.
 add_compile_options($<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
 
-# Results are the same to the bit on every build: no fused multiply-add.
+# Arithmetic is the same to the bit on every build: no fused multiply-add.
 add_compile_options(-ffp-contract=off)
+
+# Files for one platform alone end in its name: takes those for another out of a list of sources.
+function(keep_own_platform list)
+    set(other windows)
+    if(WIN32)
+        set(other posix)
+    endif()
+    list(FILTER ${list} EXCLUDE REGEX "_${other}\\.cpp$")
+    set(${list} ${${list}} PARENT_SCOPE)
+endfunction()
 
 if(BLDATMAN_SANITIZE)
     add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)

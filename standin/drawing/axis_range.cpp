@@ -21,7 +21,7 @@ double markDistance(const AxisRange& axis, int mostMarks)
 {
     const double least = (axis.high - axis.low) / mostMarks;
     const double power = std::pow(10.0, std::floor(std::log10(least)));
-    for (const double factor : {1.0, 2.0, 5.0}) {
+    for (const double factor : {1.0, 2.0, 2.5, 5.0}) {
         if (factor * power >= least) {
             return factor * power;
         }

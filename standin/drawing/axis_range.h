@@ -10,7 +10,7 @@ struct AxisRange {
     double high;
 };
 
-/// A distance of marks, 1, 2 or 5 times a power of ten, that puts at most so many marks on the axis, at least 2.
+/// A distance of marks, 1, 2, 2.5 or 5 times a power of ten, that puts at most so many marks on the axis, at least 2.
 double markDistance(const AxisRange& axis, int mostMarks);
 
 /// Grows over the finite ones of the values given to it.

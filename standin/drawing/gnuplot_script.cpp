@@ -45,16 +45,16 @@ constexpr const char* markFormat = "%.12g";
 /// How many numbers of the size of the axis's ends stand side by side below it.
 int mostMarks(const AxisRange& axis)
 {
-    constexpr int axisLength = PictureLayout::width - 140;
-    std::size_t longest = 1;
-    for (const double mark : {axis.low, axis.high}) {
-        const double distance = markDistance(axis, 6);
-        std::array<char, 40> text{};
-        const int length = std::snprintf(text.data(), text.size(), markFormat, std::round(mark / distance) * distance);
+    constexpr int axisLength = PictureLayout::width - 130;
+    constexpr int characterWidth = PictureLayout::labelFont * 3 / 5;
+    const double distance = markDistance(axis, 6);
+    std::size_t longest = 0;
+    for (const double end : {axis.low, axis.high}) {
+        std::array<char, 40> mark{};
+        const int length = std::snprintf(mark.data(), mark.size(), markFormat, std::round(end / distance) * distance);
         longest = std::max(longest, static_cast<std::size_t>(length));
     }
-    const int markWidth = static_cast<int>(longest + 2) * PictureLayout::labelFont * 3 / 5;
-    return std::clamp(axisLength / markWidth, 2, 8);
+    return std::clamp(axisLength / (static_cast<int>(longest + 1) * characterWidth), 3, 8);
 }
 
 /// The commands of one chart, part by part.

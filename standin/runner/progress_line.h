@@ -6,8 +6,8 @@
 
 namespace standin {
 
-/// One line on a terminal that the standard error stream is shown on, "Drawing plots: 40 of 380", written over as the work
-/// goes on. Elsewhere, and for little work, nothing is shown.
+/// One line on a terminal that the standard error stream is shown on, "Drawing plots: 40 of 380", written over as the
+/// work goes on. Elsewhere, and for little work, nothing is shown.
 class ProgressLine {
 public:
     explicit ProgressLine(std::string what);

@@ -1,4 +1,4 @@
-# Sourced by the other scripts: installs the Debian packages that they need.
+# Sourced by the other scripts: installs what they need, and builds.
 
 # Leaves the package manager alone when nothing is missing.
 require_packages() {
@@ -27,8 +27,17 @@ require_browser() {
         require_packages nodejs npm
     fi
     mkdir -p build/browser
-    cp tests/browser/package.json tests/browser/package-lock.json build/browser
-    npm ci --prefix build/browser --no-audit --no-fund --loglevel=error >/dev/null
+    if ! cmp -s tests/browser/package-lock.json build/browser/installed-lock.json; then
+        cp tests/browser/package.json tests/browser/package-lock.json build/browser
+        npm ci --prefix build/browser --no-audit --no-fund --loglevel=error >/dev/null
+        cp tests/browser/package-lock.json build/browser/installed-lock.json
+    fi
+}
+
+# The library and the program, optimised.
+build_program() {
+    cmake --preset release >/dev/null
+    cmake --build --preset release --target bldatman bldatman-run
 }
 
 build_packages=(g++ cmake ninja-build libboost-dev rapidjson-dev libcli11-dev libkainjow-mustache-dev gnuplot-nox)

@@ -1,0 +1,55 @@
+"""Holds the examples in the documents against what the program prints.
+
+Called as documents_test.py PROGRAM ROOT. An example is an indented line that begins with "$ build/release/bin/bldatman-run",
+goes on over lines that end in a backslash, and is followed by the indented output. With --rewrite after the arguments the
+outputs in the documents are written anew, to be reviewed as a change.
+"""
+
+import glob
+import os
+import re
+import subprocess
+import sys
+import unittest
+
+PROGRAM, ROOT = sys.argv[1:3]
+
+EXAMPLE = re.compile(r"^    \$ build/release/bin/bldatman-run ((?:.*\\\n)*.*\n)((?:    .*\n|\n(?=    ))*)", re.MULTILINE)
+
+
+def output_of(arguments):
+    """What the program prints, indented as in a document."""
+    command = f"{PROGRAM} {re.sub(chr(10) + '    ', chr(10), arguments)}"
+    output = subprocess.run(["bash", "-c", command], cwd=ROOT, capture_output=True, encoding="utf-8", check=True).stdout
+    return "".join(f"    {line}\n" if line else "\n" for line in output.splitlines())
+
+
+def documents():
+    for path in sorted([os.path.join(ROOT, "README.md"), *glob.glob(os.path.join(ROOT, "docs", "*.md"))]):
+        with open(path, encoding="utf-8") as file:
+            yield path, file.read()
+
+
+class Documents(unittest.TestCase):
+    maxDiff = None
+
+    def test_show_what_the_program_prints(self):
+        examples = 0
+        for path, text in documents():
+            for arguments, output in EXAMPLE.findall(text):
+                self.assertMultiLineEqual(output, output_of(arguments), path)
+                examples += 1
+        self.assertGreater(examples, 2)
+
+
+def rewrite():
+    for path, text in documents():
+        with open(path, "w", encoding="utf-8") as file:
+            file.write(EXAMPLE.sub(lambda match: match[0][:len(match[0]) - len(match[2])] + output_of(match[1]), text))
+
+
+if __name__ == "__main__":
+    if sys.argv[3:] == ["--rewrite"]:
+        rewrite()
+    else:
+        unittest.main(argv=sys.argv[:1])
