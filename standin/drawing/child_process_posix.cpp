@@ -87,6 +87,7 @@ public:
     Process(std::vector<std::string> command, const Streams& streams)
     {
         std::vector<char*> words;
+        words.reserve(command.size() + 1);
         for (std::string& word : command) {
             words.push_back(word.data());
         }

@@ -20,7 +20,7 @@ namespace standin {
 struct GplExpression {
     enum class Kind { Name, Number, Text, Call, Product };
 
-    Kind kind;
+    Kind kind = Kind::Name;
     std::string text;                      ///< the name, the digits, the text, or the name of what is called
     std::vector<GplExpression> arguments;  ///< of a call, or the factors of a product
 };

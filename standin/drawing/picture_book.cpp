@@ -35,6 +35,7 @@ Sketch sketch(const rapidjson::Value& graph)
 std::vector<Sketch> sketchAll(const std::vector<const rapidjson::Value*>& graphs)
 {
     std::vector<Sketch> sketches;
+    sketches.reserve(graphs.size());
     for (const rapidjson::Value* graph : graphs) {
         sketches.push_back(sketch(*graph));
     }
@@ -45,6 +46,7 @@ std::vector<Sketch> sketchAll(const std::vector<const rapidjson::Value*>& graphs
 std::vector<Drawing> draw(std::vector<Sketch>& sketches, const std::function<void(std::size_t)>& drawn)
 {
     std::vector<std::string> scripts;
+    scripts.reserve(sketches.size());
     for (Sketch& known : sketches) {
         scripts.push_back(std::move(known.script));
     }
