@@ -16,19 +16,19 @@ const oddNames = path.resolve("odd-names.csv");
 writeFileSync(oddNames, `"<script>alert(1)</script>","a""b",${"long".repeat(40)},血压\n1,2,3,4\n2,4,4,3\n5,3,6,4\n`);
 
 const reports = [
-    { name: "en", data: path.join(examples, "peakflow.csv"), options: [...peakflow, "-f", path.join(examples, "full.bld")] },
-    { name: "zh_CN", data: path.join(examples, "peakflow.csv"), options: [...peakflow, "-f", path.join(examples, "full.bld")] },
-    { name: "de", data: path.join(examples, "peakflow.csv"), options: [...peakflow, "-f", path.join(examples, "ratios.bld")] },
-    { name: "ja", data: oddNames, options: ["-c", `VARIABLE="<script>alert(1)</script>" "a""b" WITH=${"long".repeat(40)} 血压
+    { language: "en", data: path.join(examples, "peakflow.csv"), options: [...peakflow, "-f", path.join(examples, "full.bld")] },
+    { language: "zh_CN", data: path.join(examples, "peakflow.csv"), options: [...peakflow, "-f", path.join(examples, "full.bld")] },
+    { language: "de", data: path.join(examples, "peakflow.csv"), options: [...peakflow, "-f", path.join(examples, "ratios.bld")] },
+    { language: "ja", data: oddNames, options: ["-c", `VARIABLE="<script>alert(1)</script>" "a""b" WITH=${"long".repeat(40)} 血压
                                             PRINT(DETAILS MEANDIFF AGREEMENT) PLOT(RATIO AGREEMENT_LIMITS)`] },
 ];
 
-function write({ name, data, options }) {
-    const html = path.resolve(`report-${name}.html`);
-    const json = path.resolve(`report-${name}.json`);
-    execFileSync(runner, [data, ...options, "-l", name, "-o", html, "-o", json], { stdio: "inherit" });
+function write({ language, data, options }) {
+    const html = path.resolve(`report-${language}.html`);
+    const json = path.resolve(`report-${language}.json`);
+    execFileSync(runner, [data, ...options, "-l", language, "-o", html, "-o", json], { stdio: "inherit" });
     const documents = JSON.parse(readFileSync(json, "utf-8")).documents;
-    return { name, html, objects: documents.flatMap((document) => document.objects) };
+    return { language, html, objects: documents.flatMap((document) => document.objects) };
 }
 
 /** What a page shows, in the order of its objects. */
@@ -84,7 +84,7 @@ async function check(browser, report) {
         }
     });
     await page.goto(pathToFileURL(report.html).href);
-    assert.equal(await page.getAttribute("html", "lang"), report.name.replace("_", "-"));
+    assert.equal(await page.getAttribute("html", "lang"), report.language.replace("_", "-"));
 
     const objects = await page.evaluate(readPage);
     assert.deepEqual(objects.map(({ drawnAt, ...object }) => object), report.objects.map(expectedObject));
@@ -93,16 +93,16 @@ async function check(browser, report) {
     }
     for (const colorScheme of ["light", "dark"]) {
         await page.emulateMedia({ colorScheme });
-        await expectAccessible(page, `${report.name}, ${colorScheme}`);
-        await expectReadablePlots(page, `${report.name}, ${colorScheme}`);
+        await expectAccessible(page, `${report.language}, ${colorScheme}`);
+        await expectReadablePlots(page, `${report.language}, ${colorScheme}`);
     }
     await page.setViewportSize({ width: 390, height: 844 });
     const width = await page.evaluate(() => document.documentElement.scrollWidth);
-    assert.ok(width <= 390, `${report.name}: the page is ${width} pixels wide on a screen of 390`);
-    await expectAccessible(page, `${report.name}, narrow`);
-    assert.deepEqual(problems, [], `${report.name}: what the browser noticed`);
+    assert.ok(width <= 390, `${report.language}: the page is ${width} pixels wide on a screen of 390`);
+    await expectAccessible(page, `${report.language}, narrow`);
+    assert.deepEqual(problems, [], `${report.language}: what the browser noticed`);
     await page.close();
-    console.log(`${report.name}: ${objects.length} tables and plots`);
+    console.log(`${report.language}: ${objects.length} tables and plots`);
 }
 
 const browser = await launch();
