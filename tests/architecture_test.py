@@ -1,6 +1,6 @@
 """Looks at what no compiler checks: which folder may include which, and what the built library exports.
 
-Called as architecture_test.py SOURCE_FOLDER LIBRARY.
+Called as architecture_test.py SOURCE_FOLDER LIBRARY OBJDUMP.
 """
 
 import pathlib
@@ -10,7 +10,7 @@ import sys
 import unittest
 
 ROOT = pathlib.Path(sys.argv[1])
-LIBRARY = sys.argv[2]
+LIBRARY, OBJDUMP = sys.argv[2:4]
 
 # What each folder may include besides itself and host/. `analysis` sees the settings' records; the plots are an
 # operation of the output object, defined in charts/, so charts include output and never the other way round.
@@ -65,10 +65,22 @@ class Architecture(unittest.TestCase):
             for path in (ROOT / piece).rglob("*.[ch]*"):
                 self.assertNotIn("_WIN32", path.read_text(encoding="utf-8"), path)
 
+    def dump(self, option):
+        return subprocess.run([OBJDUMP, option, LIBRARY], capture_output=True, text=True, check=True).stdout
+
     def test_the_library_exports_its_entry_point_and_nothing_else(self):
-        listing = subprocess.run(["nm", "-D", "--defined-only", LIBRARY], capture_output=True, text=True, check=True)
-        symbols = [line.split()[-1] for line in listing.stdout.splitlines()]
+        if LIBRARY.endswith(".dll"):
+            table = self.dump("-p").split("[Ordinal/Name Pointer] Table")[1]
+            symbols = re.findall(r"^\t\[ *\d+\] (\w+)$", table, re.MULTILINE)
+        else:
+            symbols = [line.split()[-1] for line in self.dump("-T").splitlines()
+                       if re.match(r"[0-9a-f]+ g.{6} \.", line)]
         self.assertEqual(symbols, ["BLDATMAN"])
+
+    @unittest.skipUnless(LIBRARY.endswith(".dll"), "what another system's library needs is looked at there")
+    def test_the_library_needs_the_host_the_run_time_and_the_system_alone(self):
+        self.assertEqual(set(re.findall(r"DLL Name: (.*)", self.dump("-p"))),
+                         {"standin.dll", "libstdc++-6.dll", "libgcc_s_seh-1.dll", "KERNEL32.dll", "msvcrt.dll"})
 
 
 if __name__ == "__main__":

@@ -20,7 +20,9 @@ constexpr double largestEnd = 1e300;
 double markDistance(const AxisRange& axis, int mostMarks)
 {
     const double least = (axis.high - axis.low) / mostMarks;
-    const double power = std::pow(10.0, std::floor(std::log10(least)));
+    const double exponent = std::floor(std::log10(least));
+    // Exact powers, whose quotients and products are the same on every platform.
+    const double power = exponent < 0.0 ? 1.0 / std::pow(10.0, -exponent) : std::pow(10.0, exponent);
     for (const double factor : {1.0, 2.0, 2.5, 5.0}) {
         if (factor * power >= least) {
             return factor * power;

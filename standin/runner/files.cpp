@@ -1,6 +1,7 @@
 #include "standin/runner/files.h"
 
 #include "standin/input_error.h"
+#include "standin/runner/paths.h"
 
 #include <cerrno>
 #include <iterator>
@@ -41,12 +42,12 @@ std::string readWholeFile(const fs::path& file)
 {
     std::error_code unknown;
     if (fs::is_directory(file, unknown)) {
-        throw InputError(file.string(), "cannot be read: it is a folder");
+        throw InputError(shown(file), "cannot be read: it is a folder");
     }
     errno = 0;
     std::ifstream stream(file, std::ios::binary);
     if (!stream) {
-        throw InputError(file.string(), "cannot be read: " + reasonOf(errno));
+        throw InputError(shown(file), "cannot be read: " + reasonOf(errno));
     }
     std::string bytes;
     const auto size = fs::file_size(file, unknown);
@@ -55,7 +56,7 @@ std::string readWholeFile(const fs::path& file)
     }
     bytes.assign(std::istreambuf_iterator<char>(stream), {});
     if (stream.bad()) {
-        throw InputError(file.string(), "cannot be read to its end: " + reasonOf(errno));
+        throw InputError(shown(file), "cannot be read to its end: " + reasonOf(errno));
     }
     return bytes;
 }
@@ -76,12 +77,12 @@ OutputFile::OutputFile(const fs::path& file)
     std::error_code unknown;
     const fs::file_status status = fs::status(file_, unknown);
     if (fs::exists(status) && !fs::is_regular_file(status)) {
-        throw OutputError(file.string() + ": cannot be written: it is not a file");
+        throw OutputError(shown(file) + ": cannot be written: it is not a file");
     }
     errno = 0;
     stream_.open(partial_, std::ios::binary);
     if (!stream_) {
-        throw OutputError(file.string() + ": cannot be written: " + reasonOf(errno));
+        throw OutputError(shown(file) + ": cannot be written: " + reasonOf(errno));
     }
 }
 
@@ -121,7 +122,7 @@ void OutputFile::commit()
 
 void OutputFile::fail(const std::string& reason) const
 {
-    throw OutputError(file_.string() + ": cannot be written: " + reason);
+    throw OutputError(shown(file_) + ": cannot be written: " + reason);
 }
 
 }  // namespace standin

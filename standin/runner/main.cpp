@@ -1,3 +1,4 @@
+#include "standin/runner/arguments.h"
 #include "standin/runner/messages.h"
 #include "standin/runner/options.h"
 #include "standin/runner/run.h"
@@ -7,9 +8,9 @@
 
 int main(int argc, char** argv)
 {
-    standin::occupyClosedStandardStreams();
+    standin::prepareStandardStreams();
     try {
-        const standin::CommandLine commandLine = standin::readCommandLine(argc, argv);
+        const standin::CommandLine commandLine = standin::readCommandLine(standin::argumentsOf(argc, argv));
         return commandLine.options ? standin::run(*commandLine.options) : commandLine.exitStatus;
     } catch (const std::exception& error) {
         standin::writeMessage(error.what());

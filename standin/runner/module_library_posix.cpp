@@ -1,6 +1,7 @@
 #include "standin/runner/module_library.h"
 
 #include "standin/input_error.h"
+#include "standin/runner/paths.h"
 
 #include <dlfcn.h>
 
@@ -19,7 +20,7 @@ ModuleLibrary::ModuleLibrary(const fs::path& file)
     entryPoint_ = reinterpret_cast<EntryPoint>(dlsym(handle_, "BLDATMAN"));
     if (entryPoint_ == nullptr) {
         dlclose(handle_);
-        throw InputError("the module cannot be used: " + file.string() + " does not export BLDATMAN");
+        throw InputError("the module cannot be used: " + shown(file) + " does not export BLDATMAN");
     }
 }
 
@@ -31,7 +32,7 @@ ModuleLibrary::~ModuleLibrary()
 fs::path ModuleLibrary::besideProgram()
 {
     const fs::path program = fs::read_symlink("/proc/self/exe");
-    return program.parent_path() / BLDATMAN_LIBRARY_FROM_PROGRAM / "libbldatman.so";
+    return program.parent_path() / BLDATMAN_LIBRARY_FROM_PROGRAM;
 }
 
 }  // namespace standin

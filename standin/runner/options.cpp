@@ -4,11 +4,13 @@
 #include "standin/languages.h"
 #include "standin/runner/files.h"
 #include "standin/runner/messages.h"
+#include "standin/runner/paths.h"
 #include "standin/text_wrapping.h"
 #include "standin/utf8.h"
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
 #include <string>
 
 namespace standin {
@@ -120,7 +122,7 @@ OutputRequest outputRequest(const std::string& name)
     if (writer == nullptr) {
         throw InputError(name, "the name of an output must end in " + knownEndings());
     }
-    return {name, writer};
+    return {pathOf(name), writer};
 }
 
 /// No output may take the place of an input or of another output.
@@ -139,7 +141,7 @@ void requireDistinctFiles(const Options& options)
     for (const std::filesystem::path& file : written) {
         for (const std::filesystem::path& other : taken) {
             if (isSameFile(file, other)) {
-                throw InputError(file.string(), "would be written over " + other.string() + ", which is used already");
+                throw InputError(shown(file), "would be written over " + shown(other) + ", which is used already");
             }
         }
         taken.push_back(file);
@@ -155,31 +157,32 @@ Options checked(const CLI::App& app, const RawOptions& raw)
         throw InputError("the language code is not UTF-8");
     }
     Options options;
-    options.dataFile = raw.dataFile;
+    options.dataFile = pathOf(raw.dataFile);
     if (app.count("--command") > 0) {
         options.command = raw.command;
     }
-    options.commandFile = raw.commandFile;
-    options.dictionaryFile = raw.dictionaryFile;
+    options.commandFile = pathOf(raw.commandFile);
+    options.dictionaryFile = pathOf(raw.dictionaryFile);
     options.language = raw.language;
     for (const std::string& file : raw.outputs) {
         options.outputs.push_back(outputRequest(file));
     }
-    options.module = raw.module;
-    options.traceFile = raw.traceFile;
+    options.module = pathOf(raw.module);
+    options.traceFile = pathOf(raw.traceFile);
     requireDistinctFiles(options);
     return options;
 }
 
 }  // namespace
 
-CommandLine readCommandLine(int argc, char** argv)
+CommandLine readCommandLine(std::vector<std::string> arguments)
 {
     CLI::App app("Runs Bland-Altman method-comparison commands over a CSV file.", "bldatman-run");
     RawOptions raw;
     addOptions(app, raw);
     try {
-        app.parse(argc, argv);
+        std::ranges::reverse(arguments);  // as the library takes them
+        app.parse(arguments);
         return {checked(app, raw), exitDelivered};
     } catch (const CLI::Success& helpOrVersion) {
         app.exit(helpOrVersion);

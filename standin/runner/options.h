@@ -41,6 +41,7 @@ struct CommandLine {
     int exitStatus = exitDelivered;
 };
 
-CommandLine readCommandLine(int argc, char** argv);
+/// @param arguments  the words of the command line, without the program's name
+CommandLine readCommandLine(std::vector<std::string> arguments);
 
 }  // namespace standin

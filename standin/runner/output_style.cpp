@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <string>
 
 namespace standin {
 
@@ -12,15 +11,10 @@ namespace {
 
 constexpr std::size_t leastWidth = 40;
 
-std::string environmentVariable(const char* name)
-{
-    const char* value = std::getenv(name);
-    return value == nullptr ? "" : value;
-}
-
 bool coloursAreWelcome()
 {
-    return environmentVariable("NO_COLOR").empty() && environmentVariable("TERM") != "dumb";
+    const char* refusal = std::getenv("NO_COLOR");
+    return (refusal == nullptr || *refusal == '\0') && showsColours(StandardStream::Output);
 }
 
 }  // namespace

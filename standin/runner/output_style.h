@@ -6,7 +6,7 @@
 namespace standin {
 
 /// On a terminal as wide as the terminal, though at least 40 columns, and with colours, unless NO_COLOR is set to
-/// anything or TERM to "dumb"; elsewhere the plain style of text files.
+/// anything or the terminal shows none; elsewhere the plain style of text files.
 TextStyle standardOutputStyle();
 
 }  // namespace standin

@@ -3,6 +3,7 @@
 #include "standin/drawing/picture_book.h"
 #include "standin/render/render_text.h"
 #include "standin/runner/output_style.h"
+#include "standin/runner/paths.h"
 #include "standin/runner/progress_line.h"
 
 #include <iostream>
@@ -43,7 +44,7 @@ std::vector<std::string> writeOutputs(const Session& session, const Options& opt
     const Report report{session.documents, options.language, pictures};
     Failures failures;
     for (const OutputRequest& output : options.outputs) {
-        const Failures more = attempt(output.place.string(), [&] { return output.write(report, output.place); });
+        const Failures more = attempt(shown(output.place), [&] { return output.write(report, output.place); });
         failures.insert(failures.end(), more.begin(), more.end());
     }
     return failures;

@@ -2,6 +2,7 @@
 
 #include "standin/document_view.h"
 #include "standin/runner/files.h"
+#include "standin/runner/paths.h"
 #include "standin/unicode.h"
 #include "standin/utf8.h"
 
@@ -52,7 +53,7 @@ std::vector<PlotFile> plotFilesOf(const Report& report, const fs::path& folder)
     std::vector<PlotFile> plots;
     for (const rapidjson::Value* graph : graphs) {
         const std::string number = padded(plots.size() + 1, graphs.size());
-        plots.push_back({folder / fs::u8path(number + "-" + fileNameFor(titleOf(*graph)) + ".svg"),
+        plots.push_back({folder / pathOf(number + "-" + fileNameFor(titleOf(*graph)) + ".svg"),
                          &report.pictures.pictureOf(*graph)});
     }
     return plots;
@@ -63,14 +64,14 @@ void makeFolder(const fs::path& folder)
     std::error_code error;
     fs::create_directories(folder, error);
     if (error) {
-        throw OutputError(folder.string() + ": cannot be made: " + error.message());
+        throw OutputError(shown(folder) + ": cannot be made: " + error.message());
     }
 }
 
 void writePlot(const PlotFile& plot)
 {
     if (!plot.isDrawn()) {
-        throw OutputError(plot.file.string() + ": cannot be drawn: " + plot.picture->reason);
+        throw OutputError(shown(plot.file) + ": cannot be drawn: " + plot.picture->reason);
     }
     OutputFile output(plot.file);
     output.write("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n" + plot.picture->svg + "\n");

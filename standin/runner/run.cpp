@@ -8,6 +8,7 @@
 #include "standin/runner/messages.h"
 #include "standin/runner/module_library.h"
 #include "standin/runner/outputs.h"
+#include "standin/runner/paths.h"
 #include "standin/session.h"
 #include "standin/utf8.h"
 
@@ -22,9 +23,9 @@ namespace {
 
 DataSet readData(const Options& options)
 {
-    DataSet dataSet = readCsv(readWholeFile(options.dataFile), options.dataFile.string());
+    DataSet dataSet = readCsv(readWholeFile(options.dataFile), shown(options.dataFile));
     if (!options.dictionaryFile.empty()) {
-        applyDictionary(dataSet, readWholeFile(options.dictionaryFile), options.dictionaryFile.string());
+        applyDictionary(dataSet, readWholeFile(options.dictionaryFile), shown(options.dictionaryFile));
     }
     return dataSet;
 }
@@ -34,7 +35,7 @@ std::vector<CommandText> readCommands(const Options& options)
     if (options.command) {
         return {singleCommand(*options.command)};
     }
-    const std::string fileName = options.commandFile.string();
+    const std::string fileName = shown(options.commandFile);
     const std::string bytes = readWholeFile(options.commandFile);
     return cutCommands(std::string(requireUtf8(bytes, fileName)), fileName);
 }
@@ -95,7 +96,7 @@ private:
         if (!options_.command) {
             const auto line = placeOf(*commands_[index].text, commands_[index].begin).line;
             which = "command " + std::to_string(index + 1) + " of " + std::to_string(commands_.size()) + " (" +
-                    options_.commandFile.string() + ", line " + std::to_string(line) + ")";
+                    shown(options_.commandFile) + ", line " + std::to_string(line) + ")";
         }
         const std::size_t cases = session_.dataSet.caseCount;
         writeMessage(which + " ended without a document; " + std::to_string(cases) +

@@ -5,7 +5,7 @@
 
 namespace standin {
 
-void occupyClosedStandardStreams()
+void prepareStandardStreams()
 {
     // The lowest free descriptor is the one that `open` gives.
     for (int descriptor = STDIN_FILENO; descriptor <= STDERR_FILENO; ++descriptor) {

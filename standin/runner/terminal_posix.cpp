@@ -3,6 +3,9 @@
 #include <sys/ioctl.h>
 #include <unistd.h>
 
+#include <cstdlib>
+#include <cstring>
+
 namespace standin {
 
 namespace {
@@ -19,6 +22,12 @@ int descriptorOf(StandardStream stream)
 bool isTerminal(StandardStream stream)
 {
     return isatty(descriptorOf(stream)) == 1;
+}
+
+bool showsColours(StandardStream stream)
+{
+    const char* kind = std::getenv("TERM");
+    return isTerminal(stream) && kind != nullptr && std::strcmp(kind, "dumb") != 0;
 }
 
 std::size_t terminalWidth(StandardStream stream)

@@ -19,7 +19,7 @@ EXAMPLE = re.compile(r"^    \$ build/release/bin/bldatman-run ((?:.*\\\n)*.*\n)(
 
 def output_of(arguments):
     """What the program prints, indented as in a document."""
-    command = f"{PROGRAM} {re.sub(chr(10) + '    ', chr(10), arguments)}"
+    command = f"{os.environ.get('EMULATOR', '')} {PROGRAM} {re.sub(chr(10) + '    ', chr(10), arguments)}"
     output = subprocess.run(["bash", "-c", command], cwd=ROOT, capture_output=True, encoding="utf-8", check=True).stdout
     return "".join(f"    {line}\n" if line else "\n" for line in output.splitlines())
 

@@ -1,6 +1,7 @@
 #include "standin/drawing/picture_book.h"
 
 #include "tests/support/command_run.h"
+#include "tests/support/drawing_test.h"
 
 #include <gmock/gmock.h>
 
@@ -16,7 +17,9 @@ using testing::Not;
 using testing::StartsWith;
 using tests::Host;
 
-TEST(PictureBook, MakesPicturesThatCanStandTogetherInAPage)
+class PictureBookTest : public tests::DrawingTest {};
+
+TEST_F(PictureBookTest, MakesPicturesThatCanStandTogetherInAPage)
 {
     Host host("A,B,C;10,9,8;12,12,11;14,11,12;12,12,10");
     host.run("VARIABLE=A WITH=B PLOT(RATIO)");
@@ -35,7 +38,7 @@ TEST(PictureBook, MakesPicturesThatCanStandTogetherInAPage)
     EXPECT_EQ(progress.back(), "3/3");
 }
 
-TEST(PictureBook, GivesTheReasonWhereThereIsNoPictureAndDrawsTheOthers)
+TEST_F(PictureBookTest, GivesTheReasonWhereThereIsNoPictureAndDrawsTheOthers)
 {
     Host host("A,\"B\"\"), f(\"\"\",C;1,2,1e303;2,5,-1e303;4,3,4");
     host.run(R"(VARIABLE=A WITH="B""), f(""" C)");

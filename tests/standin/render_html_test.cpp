@@ -1,6 +1,7 @@
 #include "standin/render/render_html.h"
 
 #include "tests/support/command_run.h"
+#include "tests/support/drawing_test.h"
 
 #include <gmock/gmock.h>
 
@@ -66,7 +67,9 @@ TEST(Html, HoldsEveryTableAndPlotOfTheDocument)
     }
 }
 
-TEST(Html, ShowsNamesAsTheyAreWhateverTheyHold)
+class DrawnHtml : public tests::DrawingTest {};
+
+TEST_F(DrawnHtml, ShowsNamesAsTheyAreWhateverTheyHold)
 {
     const std::string page =
         pageOf(R"("<script>alert(1)</script>","a""b",{{x}};1,2,3;3,5,4;6,4,4)",

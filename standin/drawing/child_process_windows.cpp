@@ -1,0 +1,141 @@
+#include "standin/drawing/child_process.h"
+
+#include "standin/wide_text_windows.h"
+
+#include <windows.h>
+
+#include <array>
+#include <memory>
+#include <system_error>
+
+namespace standin {
+
+namespace {
+
+[[noreturn]] void fail(const std::string& program, DWORD error)
+{
+    throw ProcessError(
+        program + (error == ERROR_FILE_NOT_FOUND ? " is not installed" : " cannot be run: " + systemMessage(error)));
+}
+
+struct CloseHandleOf {
+    using pointer = HANDLE;
+    void operator()(HANDLE handle) const
+    {
+        if (handle != INVALID_HANDLE_VALUE) {
+            CloseHandle(handle);
+        }
+    }
+};
+using Handle = std::unique_ptr<HANDLE, CloseHandleOf>;
+
+/// A file that is gone when it is closed, for a child to inherit.
+Handle temporaryFile()
+{
+    std::array<wchar_t, MAX_PATH + 1> folder{};
+    std::array<wchar_t, MAX_PATH + 1> name{};
+    if (GetTempPathW(MAX_PATH + 1, folder.data()) == 0 ||
+        GetTempFileNameW(folder.data(), L"bld", 0, name.data()) == 0) {
+        return Handle(INVALID_HANDLE_VALUE);
+    }
+    SECURITY_ATTRIBUTES inherited{sizeof(SECURITY_ATTRIBUTES), nullptr, TRUE};
+    return Handle(CreateFileW(name.data(), GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_DELETE,
+                              &inherited, CREATE_ALWAYS, FILE_ATTRIBUTE_TEMPORARY | FILE_FLAG_DELETE_ON_CLOSE,
+                              nullptr));
+}
+
+void rewindFile(const Handle& file)
+{
+    SetFilePointer(file.get(), 0, nullptr, FILE_BEGIN);
+}
+
+bool fill(const Handle& file, std::string_view text)
+{
+    DWORD written = 0;
+    const bool whole = WriteFile(file.get(), text.data(), static_cast<DWORD>(text.size()), &written, nullptr) != 0 &&
+                       written == text.size();
+    rewindFile(file);
+    return whole;
+}
+
+/// With its line ends as LF.
+void readToEnd(const Handle& file, const std::function<void(std::string_view)>& take)
+{
+    std::array<char, 65536> buffer{};
+    DWORD count = 0;
+    while (ReadFile(file.get(), buffer.data(), static_cast<DWORD>(buffer.size()), &count, nullptr) != 0 && count > 0) {
+        std::string piece(buffer.data(), count);
+        std::erase(piece, '\r');
+        take(piece);
+    }
+}
+
+std::wstring commandLine(const std::vector<std::string>& command)
+{
+    std::wstring line;
+    for (const std::string& word : command) {
+        line += (line.empty() ? L"\"" : L" \"") + wideText(word) + L"\"";
+    }
+    return line;
+}
+
+/// A started process, waited for by its owner.
+class Process {
+public:
+    Process(const std::vector<std::string>& command, HANDLE input, HANDLE output, HANDLE errors)
+    {
+        STARTUPINFOW start{};
+        start.cb = sizeof(start);
+        start.dwFlags = STARTF_USESTDHANDLES;
+        start.hStdInput = input;
+        start.hStdOutput = output;
+        start.hStdError = errors;
+        std::wstring line = commandLine(command);
+        if (CreateProcessW(nullptr, line.data(), nullptr, nullptr, TRUE, CREATE_NO_WINDOW, nullptr, nullptr, &start,
+                           &information_) == 0) {
+            fail(command[0], GetLastError());
+        }
+    }
+    ~Process()
+    {
+        WaitForSingleObject(information_.hProcess, INFINITE);
+        CloseHandle(information_.hThread);
+        CloseHandle(information_.hProcess);
+    }
+    Process(const Process&) = delete;
+    Process& operator=(const Process&) = delete;
+
+private:
+    PROCESS_INFORMATION information_{};
+};
+
+}  // namespace
+
+std::string runProgram(const std::vector<std::string>& command, const std::string& input,
+                       const std::function<void(std::string_view)>& takeOutput)
+{
+    // Input and errors are files, so that one pipe is left and neither side ever waits for the other.
+    const Handle itsInput = temporaryFile();
+    const Handle errors = temporaryFile();
+    HANDLE readEnd = INVALID_HANDLE_VALUE;
+    HANDLE writeEnd = INVALID_HANDLE_VALUE;
+    SECURITY_ATTRIBUTES inherited{sizeof(SECURITY_ATTRIBUTES), nullptr, TRUE};
+    if (itsInput.get() == INVALID_HANDLE_VALUE || errors.get() == INVALID_HANDLE_VALUE || !fill(itsInput, input) ||
+        CreatePipe(&readEnd, &writeEnd, &inherited, 0) == 0) {
+        fail(command[0], GetLastError());
+    }
+    const Handle output(readEnd);
+    Handle itsOutput(writeEnd);
+    SetHandleInformation(readEnd, HANDLE_FLAG_INHERIT, 0);
+    {
+        const Process process(command, itsInput.get(), itsOutput.get(), errors.get());
+        itsOutput.reset();
+        readToEnd(output, takeOutput);
+    }
+    rewindFile(errors);
+    std::string complaints;
+    readToEnd(errors, [&](std::string_view piece) { complaints += piece; });
+    return complaints;
+}
+
+}  // namespace standin

@@ -1,0 +1,41 @@
+#include "standin/runner/module_library.h"
+
+#include "standin/input_error.h"
+#include "standin/runner/paths.h"
+#include "standin/wide_text_windows.h"
+
+#include <windows.h>
+
+#include <string>
+
+namespace standin {
+
+namespace fs = std::filesystem;
+
+ModuleLibrary::ModuleLibrary(const fs::path& file)
+    : handle_(LoadLibraryExW(fs::absolute(file).c_str(), nullptr, LOAD_WITH_ALTERED_SEARCH_PATH))
+{
+    if (handle_ == nullptr) {
+        throw InputError("the module cannot be loaded: " + shown(file) + ": " + systemMessage(GetLastError()));
+    }
+    auto* const library = static_cast<HMODULE>(handle_);
+    entryPoint_ = reinterpret_cast<EntryPoint>(reinterpret_cast<void*>(GetProcAddress(library, "BLDATMAN")));
+    if (entryPoint_ == nullptr) {
+        FreeLibrary(library);
+        throw InputError("the module cannot be used: " + shown(file) + " does not export BLDATMAN");
+    }
+}
+
+ModuleLibrary::~ModuleLibrary()
+{
+    FreeLibrary(static_cast<HMODULE>(handle_));
+}
+
+fs::path ModuleLibrary::besideProgram()
+{
+    std::wstring program(32768, L'\0');
+    program.resize(GetModuleFileNameW(nullptr, program.data(), static_cast<DWORD>(program.size())));
+    return fs::path(program).parent_path() / BLDATMAN_LIBRARY_FROM_PROGRAM;
+}
+
+}  // namespace standin

@@ -1,0 +1,23 @@
+// For tests that look at pictures.
+#pragma once
+
+#include "standin/drawing/child_process.h"
+
+#include <gtest/gtest.h>
+
+namespace tests {
+
+/// Its tests are skipped where there is no gnuplot to draw with.
+class DrawingTest : public testing::Test {
+protected:
+    void SetUp() override
+    {
+        try {
+            standin::runProgram({"gnuplot", "--version"}, "", [](std::string_view) {});
+        } catch (const standin::ProcessError& error) {
+            GTEST_SKIP() << error.what();
+        }
+    }
+};
+
+}  // namespace tests
