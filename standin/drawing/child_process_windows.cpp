@@ -12,10 +12,27 @@ namespace standin {
 
 namespace {
 
+constexpr DWORD longestPath = 32768;
+
 [[noreturn]] void fail(const std::string& program, DWORD error)
 {
-    throw ProcessError(
-        program + (error == ERROR_FILE_NOT_FOUND ? " is not installed" : " cannot be run: " + systemMessage(error)));
+    throw ProcessError(program + " cannot be run: " + systemMessage(error));
+}
+
+/// Where the program stands in the folders of PATH. The system itself would look into the current folder first, and so
+/// run whatever lies beside the data.
+std::wstring found(const std::string& program)
+{
+    std::wstring folders(GetEnvironmentVariableW(L"PATH", nullptr, 0), L'\0');
+    folders.resize(GetEnvironmentVariableW(L"PATH", folders.data(), static_cast<DWORD>(folders.size())));
+    std::wstring file(longestPath, L'\0');
+    const DWORD length =
+        SearchPathW(folders.c_str(), wideText(program).c_str(), L".exe", longestPath, file.data(), nullptr);
+    if (length == 0 || length >= longestPath) {
+        throw ProcessError(program + " is not installed");
+    }
+    file.resize(length);
+    return file;
 }
 
 struct CloseHandleOf {
@@ -91,8 +108,8 @@ public:
         start.hStdOutput = output;
         start.hStdError = errors;
         std::wstring line = commandLine(command);
-        if (CreateProcessW(nullptr, line.data(), nullptr, nullptr, TRUE, CREATE_NO_WINDOW, nullptr, nullptr, &start,
-                           &information_) == 0) {
+        if (CreateProcessW(found(command[0]).c_str(), line.data(), nullptr, nullptr, TRUE, CREATE_NO_WINDOW, nullptr,
+                           nullptr, &start, &information_) == 0) {
             fail(command[0], GetLastError());
         }
     }

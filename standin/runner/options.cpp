@@ -104,10 +104,11 @@ void addOutputOptions(CLI::App& app, RawOptions& raw)
 void addOptions(CLI::App& app, RawOptions& raw)
 {
     app.get_formatter()->column_width(namesWidth);
+    app.allow_windows_style_options(false);  // "/data/x.csv" is a file on every system
     addInputOptions(app, raw);
     addOutputOptions(app, raw);
     app.add_option("--module", raw.module,
-                   described("the library to load, the one built beside this program unless given",
+                   described("the library to load, the one that came with this program unless given",
                              "--module build/sanitize/lib/libbldatman.so"))
         ->option_text("F");
     app.set_help_flag("-h,--help", described("print this and exit", "bldatman-run --help"));

@@ -1,4 +1,8 @@
-"""Runs bldatman-run the way a user does: runner_test.py PROGRAM MODULE BAD_MODULE"""
+"""Runs bldatman-run the way a user does: runner_test.py PROGRAM MODULE BAD_MODULE
+
+A program for another system runs under the emulator; there gnuplot is missing, and no links or permissions of this
+system's kind are kept.
+"""
 
 import errno
 import json
@@ -11,6 +15,10 @@ import unittest
 import xml.etree.ElementTree
 
 PROGRAM, MODULE, BAD_MODULE = sys.argv[1:4]
+EMULATOR = os.environ.get("EMULATOR", "").split()
+
+natively = unittest.skipIf(EMULATOR, "of this system's own kind")
+with_gnuplot = unittest.skipIf(EMULATOR, "needs gnuplot")
 
 DATA = "a,b,t\n1,2,x\n3,5,y\n4,4,x\n2,3,\n7,6,x\n"
 GOOD = "VARIABLE=a WITH=b PRINT(MEANDIFF)"
@@ -40,14 +48,14 @@ class Runner(unittest.TestCase):
             file.write(text)
 
     def read(self, name):
-        with open(os.path.join(self.folder, name), encoding="utf-8") as file:
+        with open(os.path.join(self.folder, name), encoding="utf-8", newline="") as file:
             return file.read()
 
     def files(self):
         return sorted(os.listdir(self.folder))
 
     def run_program(self, *arguments, output=subprocess.PIPE):
-        return subprocess.run([PROGRAM, *arguments], cwd=self.folder, stdout=output, stderr=subprocess.PIPE,
+        return subprocess.run([*EMULATOR, PROGRAM, *arguments], cwd=self.folder, stdout=output, stderr=subprocess.PIPE,
                               env=self.environment, encoding="utf-8", timeout=60, check=False)
 
     def expect(self, status, errors, *arguments):
@@ -112,6 +120,16 @@ class Delivery(Runner):
                          ['BpProcedure::BpProcedure\t["BLDATMAN",10]'])
         self.assertEqual(lines[-1], "BpProcedure::~BpProcedure\t[]")
 
+    def test_takes_names_in_every_alphabet_and_either_line_end(self):
+        self.write("Größe und 測定.csv", "é̈,测定 1\r\n1,2\r\n3,5\r\n4,4\r\n")
+        self.write("命令.bld", 'BLDATMAN VARIABLE=é̈ # Anmerkung\r\n  WITH="测定 1"\r\n  PRINT(MEANDIFF);\r\n')
+        self.expect(0, [], "Größe und 測定.csv", "-f", "命令.bld", "-o", "отчёт.json", "--trace", "след.txt")
+        self.expect(0, [], "Größe und 測定.csv", "-c", 'VARIABLE=é̈ WITH="测定 1" PRINT(MEANDIFF)', "-o", "второй.json")
+        self.assertEqual(self.read("отчёт.json"), self.read("второй.json"))
+        self.assertIn('"Confidence Intervals of Mean Differences (é̈ and 测定 1)"', self.read("отчёт.json"))
+        self.assertNotIn("\r", self.read("след.txt"))
+        self.expect_nothing_run("ничего.csv: cannot be read: ", "ничего.csv", "-c", GOOD)
+
     def test_tells_its_version_and_its_options(self):
         self.assertRegex(self.expect(0, [], "--version"), r"^bldatman-run \d+\.\d+\.\d+\n$")
         self.assertIn("--command-file", self.expect(0, [], "--help"))
@@ -120,12 +138,14 @@ class Delivery(Runner):
 class Plots(Runner):
     NAMES = ["1-Bland-Altman-Plot-of-Differences-a-b.svg", "2-Bland-Altman-Plot-of-Ratios-a-b.svg"]
 
+    @with_gnuplot
     def test_are_in_the_report(self):
         self.expect(0, [], "d.csv", "-c", GOOD + " PLOT(RATIO)", "-l", "de", "-o", "x.html")
         report = self.read("x.html")
         self.assertTrue(report.startswith('<!DOCTYPE html>\n<html lang="de">'))
         self.assertEqual((report.count("<svg "), report.count("<circle "), report.count("<table>")), (2, 10, 1))
 
+    @with_gnuplot
     def test_show_what_the_document_says(self):
         self.expect(0, [], "d.csv", "-c", "VARIABLE=a WITH=b PLOT(RATIO REFLINE AGREEMENT_LIMITS=CI CI_MEANDIFF)",
                     "-o", "x.json", "-o", "./")
@@ -169,6 +189,7 @@ class Plots(Runner):
         for height, value in zip(heights, values):
             self.assertAlmostEqual(height, bottom - unit * (value - least), delta=0.021)
 
+    @with_gnuplot
     def test_that_overlap_stand_side_by_side(self):
         self.write("d.csv", "a,b\n" + 3 * "1,2\n" + "3,5\n")
         self.expect(0, [], "d.csv", "-c", "VARIABLE=a WITH=b", "-o", "./")
@@ -177,6 +198,7 @@ class Plots(Runner):
         self.assertAlmostEqual(middle - left, right - middle, delta=0.021)
         self.assertGreater(right - middle, 5)
 
+    @with_gnuplot
     def test_are_files_of_their_own_in_a_folder(self):
         self.write("kept.svg", "as it was")
         for _ in range(2):
@@ -188,6 +210,7 @@ class Plots(Runner):
             self.assertEqual(xml.etree.ElementTree.parse(os.path.join(self.folder, name)).getroot().tag,
                              SVG + "svg")
 
+    @with_gnuplot
     def test_have_names_that_every_system_takes(self):
         self.write("odd.csv", '../x/\\:*?,"<a>|\n",' + 300 * "é" + "\n1,2,3\n3,5,4\n4,4,4\n")
         self.expect(0, [], "odd.csv", "-c", f'VARIABLE="../x/\\:*?" WITH="<a>|\n" {300 * "é"}', "-o", "plots/")
@@ -197,7 +220,7 @@ class Plots(Runner):
 
     def test_that_cannot_be_drawn_leave_the_report_whole(self):
         before = self.expect(0, [], "d.csv", "-c", GOOD)
-        self.environment = {"PATH": self.folder}
+        self.environment = None if EMULATOR else {"PATH": self.folder}
         self.assertEqual(self.expect(0, [], "d.csv", "-c", GOOD, "-o", "x.html", "-o", "x.txt"), "")
         self.assertEqual(self.read("x.txt"), before)
         self.assertIn("This plot cannot be drawn: gnuplot is not installed.", self.read("x.html"))
@@ -206,6 +229,7 @@ class Plots(Runner):
                     "-o", "none.html", "-o", "none/")
         self.assertEqual(self.files(), ["d.csv", "x.html", "x.txt"])
 
+    @with_gnuplot
     def test_that_gnuplot_does_not_draw_say_what_it_said(self):
         for program, reason in (("echo 'line 3: out of ink' >&2", "gnuplot says: out of ink"),
                                 ("kill -9 $$", "gnuplot drew nothing"), ("echo '<svg'", "gnuplot drew nothing")):
@@ -216,6 +240,7 @@ class Plots(Runner):
             self.assertIn(f"This plot cannot be drawn: {reason}.", self.read("x.html"))
             self.assertEqual(self.read("x.html").count("This plot cannot be drawn: "), 2)
 
+    @with_gnuplot
     def test_keep_their_colours_whatever_else_is_drawn(self):
         def colour_of_mean(*keywords):
             self.expect(0, [], "d.csv", "-c", f"VARIABLE=a WITH=b PLOT({' '.join(keywords)})", "-o", "./")
@@ -223,10 +248,12 @@ class Plots(Runner):
 
         self.assertEqual(colour_of_mean(), colour_of_mean("REFLINE", "AGREEMENT_LIMITS"))
 
+    @with_gnuplot
     def test_folder_that_cannot_be_made_is_an_output_that_cannot_be_written(self):
-        self.expect(3, [f"bldatman-run: d.csv/: cannot be made: {os.strerror(errno.EEXIST)}"], "d.csv", "-c", GOOD, "-o", "d.csv/",
-                    "-o", "x.txt")
-        self.assertEqual(self.read("d.csv"), DATA)
+        self.write("file", "as it was")
+        self.expect(3, [f"bldatman-run: file/: cannot be made: {os.strerror(errno.EEXIST)}"], "d.csv", "-c", GOOD,
+                    "-o", "file/", "-o", "x.txt")
+        self.assertEqual(self.read("file"), "as it was")
         self.assertIn("x.txt", self.files())
 
 
@@ -320,6 +347,7 @@ class UnwritableOutput(Runner):
         self.assertEqual(self.files(), ["d.csv", "folder.json", "x.txt"])
         self.assertEqual(os.listdir(os.path.join(self.folder, "folder.json")), [])
 
+    @natively
     def test_may_be_one_that_cannot_even_be_looked_at(self):
         name = 300 * "x" + ".json"
         self.expect(3, [f"bldatman-run: {name}: cannot be written: {os.strerror(errno.ENAMETOOLONG)}"],
@@ -336,6 +364,7 @@ class UnwritableOutput(Runner):
             self.assertTrue(result.stderr.startswith(f"bldatman-run: {arguments[-1]}: would be written over "))
             self.assertEqual((result.returncode, self.files(), self.read("d.csv")), (2, before, DATA))
 
+    @natively
     def test_keeps_the_permissions_of_the_file_that_it_replaces(self):
         self.write("x.json", "old")
         os.chmod(os.path.join(self.folder, "x.json"), 0o600)
@@ -346,11 +375,12 @@ class UnwritableOutput(Runner):
         whole = ["d.csv", "-c", GOOD, "--trace", "whole.txt", "-o", "x.txt"]
         self.expect(0, [], *whole)
         for close, status in ((">&-", 3), ("2>&-", 0)):
-            result = subprocess.run(["sh", "-c", f'"$0" d.csv -c "$1" --trace t.txt {close}', PROGRAM, GOOD],
-                                    cwd=self.folder, capture_output=True, check=False)
+            result = subprocess.run(["sh", "-c", f'"$@" {close}', "sh", *EMULATOR, PROGRAM, "d.csv", "-c", GOOD,
+                                     "--trace", "t.txt"], cwd=self.folder, capture_output=True, check=False)
             self.assertEqual(result.returncode, status)
             self.assertEqual(self.read("t.txt"), self.read("whole.txt"))
 
+    @natively
     def test_keeps_a_link_a_link(self):
         os.symlink("target.json", os.path.join(self.folder, "link.json"))
         for _ in range(2):
