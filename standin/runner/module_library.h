@@ -18,8 +18,8 @@ public:
 
     EntryPoint entryPoint() const { return entryPoint_; }
 
-    /// Where the library stands that was built or installed with the running program.
-    static std::filesystem::path besideProgram();
+    /// Where the library stands that was built or installed with this host: beside the host's own library.
+    static std::filesystem::path besideHost();
 
 private:
     void* handle_;

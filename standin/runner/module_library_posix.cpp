@@ -1,5 +1,6 @@
 #include "standin/runner/module_library.h"
 
+#include "host/common_areas.h"
 #include "standin/input_error.h"
 #include "standin/runner/paths.h"
 
@@ -29,10 +30,11 @@ ModuleLibrary::~ModuleLibrary()
     dlclose(handle_);
 }
 
-fs::path ModuleLibrary::besideProgram()
+fs::path ModuleLibrary::besideHost()
 {
-    const fs::path program = fs::read_symlink("/proc/self/exe");
-    return program.parent_path() / BLDATMAN_LIBRARY_FROM_PROGRAM;
+    Dl_info host{};
+    dladdr(reinterpret_cast<const void*>(&pvGetCmnBpr), &host);
+    return fs::path(host.dli_fname).parent_path() / "libbldatman.so";
 }
 
 }  // namespace standin

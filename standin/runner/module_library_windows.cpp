@@ -31,11 +31,11 @@ ModuleLibrary::~ModuleLibrary()
     FreeLibrary(static_cast<HMODULE>(handle_));
 }
 
-fs::path ModuleLibrary::besideProgram()
+fs::path ModuleLibrary::besideHost()
 {
-    std::wstring program(32768, L'\0');
-    program.resize(GetModuleFileNameW(nullptr, program.data(), static_cast<DWORD>(program.size())));
-    return fs::path(program).parent_path() / BLDATMAN_LIBRARY_FROM_PROGRAM;
+    std::wstring host(32768, L'\0');
+    host.resize(GetModuleFileNameW(GetModuleHandleW(L"standin.dll"), host.data(), static_cast<DWORD>(host.size())));
+    return fs::path(host).parent_path() / "bldatman.dll";
 }
 
 }  // namespace standin

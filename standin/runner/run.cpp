@@ -76,7 +76,7 @@ private:
         session_.onComplaint = writeMessage;
         commands_ = readCommands(options_);
         beginTrace();
-        library_.emplace(options_.module.empty() ? ModuleLibrary::besideProgram() : options_.module);
+        library_.emplace(options_.module.empty() ? ModuleLibrary::besideHost() : options_.module);
     }
 
     void runCommands()
