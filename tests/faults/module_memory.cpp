@@ -1,0 +1,104 @@
+#include "tests/faults/module_memory.h"
+
+#include "standin/call_monitor.h"
+
+#include <cstddef>
+#include <cstdlib>
+#include <new>
+#include <utility>
+
+namespace {
+
+// Every block is preceded by a word that tells whether it is the module's.
+struct alignas(std::max_align_t) Header {
+    bool ofModule;
+};
+
+bool watching = false;
+long allocated = 0;
+long live = 0;
+long failAt = 0;
+std::function<void()> note;
+
+bool moduleRuns()
+{
+    const standin::CallMonitor* monitor = standin::CallMonitor::current();
+    return watching && monitor != nullptr && !monitor->insideHost();
+}
+
+void* allocate(std::size_t size)
+{
+    const bool ofModule = moduleRuns();
+    if (ofModule) {
+        note();
+        if (++allocated == failAt) {
+            return nullptr;
+        }
+    }
+    auto* const header = static_cast<Header*>(std::malloc(sizeof(Header) + size));
+    if (header == nullptr) {
+        return nullptr;
+    }
+    header->ofModule = ofModule;
+    live += ofModule ? 1 : 0;
+    return header + 1;
+}
+
+void release(void* block) noexcept
+{
+    if (block == nullptr) {
+        return;
+    }
+    Header* const header = static_cast<Header*>(block) - 1;
+    live -= header->ofModule ? 1 : 0;
+    std::free(header);
+}
+
+}  // namespace
+
+void* operator new(std::size_t size)
+{
+    if (void* const block = allocate(size)) {
+        return block;
+    }
+    throw std::bad_alloc();
+}
+
+void* operator new(std::size_t size, const std::nothrow_t& /*unused*/) noexcept
+{
+    return allocate(size);
+}
+
+void operator delete(void* block) noexcept
+{
+    release(block);
+}
+
+void operator delete(void* block, std::size_t /*size*/) noexcept
+{
+    release(block);
+}
+
+namespace tests {
+
+ModuleMemory::ModuleMemory(long failing, std::function<void()> noted)
+{
+    note = std::move(noted);
+    allocated = 0;
+    live = 0;
+    failAt = failing;
+    watching = true;
+}
+
+ModuleMemory::~ModuleMemory()
+{
+    watching = false;
+    note = nullptr;
+}
+
+long ModuleMemory::stillAllocated()
+{
+    return live;
+}
+
+}  // namespace tests

@@ -1,0 +1,22 @@
+// The memory that the module asks for. Linked into a program, this takes the place of the global `operator new`.
+#pragma once
+
+#include <functional>
+
+namespace tests {
+
+/// While it lives, what the module allocates is counted, the host's own allocations are not. One at a time.
+class ModuleMemory {
+public:
+    /// @param failing  which allocation (from 1) is to fail with `std::bad_alloc`; 0: none
+    /// @param noted    called at every allocation
+    ModuleMemory(long failing, std::function<void()> noted);
+    ~ModuleMemory();
+    ModuleMemory(const ModuleMemory&) = delete;
+    ModuleMemory& operator=(const ModuleMemory&) = delete;
+
+    /// Blocks that nobody has freed so far.
+    static long stillAllocated();
+};
+
+}  // namespace tests
