@@ -330,6 +330,19 @@ class BadInput(Runner):
 
 
 class BrokenContract(Runner):
+    def run_bad_guest(self, breach):
+        self.environment = {**os.environ, "BLDATMAN_BREACH": breach}
+        return self.run_program("two.csv", "-c", GOOD, "--module", BAD_MODULE)
+
+    def test_of_whatever_rule_ends_the_run_and_names_the_operation(self):
+        self.write("two.csv", "a,b\n1,2\n3,4\n")
+        rules = [line.split("\t") for line in self.run_bad_guest("?").stdout.splitlines()]
+        self.assertGreater(len(rules), 30)
+        for name, error in rules:
+            result = self.run_bad_guest(name)
+            self.assertEqual(result.stderr.splitlines()[-1], f"bldatman-run: the module broke the host's contract: {error}")
+            self.assertEqual((result.returncode, result.stdout), (4, ""), name)
+
     def test_ends_the_run_and_writes_nothing(self):
         self.write("c.bld", f"BLDATMAN {GOOD};\nBLDATMAN {GOOD};")
         self.expect(4, [ended("command 1 of 2 (c.bld, line 1)"),
