@@ -39,7 +39,14 @@ function(keep_own_platform list)
     set(${list} ${${list}} PARENT_SCOPE)
 endfunction()
 
+# What is fuzzed tells the fuzzer which branches an input takes.
+if(BLDATMAN_FUZZ)
+    add_compile_options(-fsanitize=fuzzer-no-link)
+endif()
+
 if(BLDATMAN_SANITIZE)
     add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
     add_link_options(-fsanitize=address,undefined)
+    # RapidJSON's empty stack adds to a null pointer.
+    add_compile_options($<$<CXX_COMPILER_ID:Clang>:-fno-sanitize=pointer-overflow>)
 endif()

@@ -8,10 +8,12 @@
 
 #include <rapidjson/document.h>
 #include <rapidjson/error/en.h>
+#include <rapidjson/reader.h>
 
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <map>
 #include <optional>
@@ -53,6 +55,50 @@ constexpr std::array<LevelName, 3> levelNames{{{"scale", QUVO_Variable_Enumerati
 std::string_view textOf(const Value& text)
 {
     return {text.GetString(), text.GetStringLength()};
+}
+
+/// Hands on to a document what is parsed, with numbers as the data have them: a missing code equals the cell that
+/// spells the same number. (The parser's own exact way takes a zero with a large exponent for another number.)
+class NumberByNumber {
+public:
+    explicit NumberByNumber(rapidjson::Document& document)
+        : document_(document)
+    {
+    }
+
+    bool Null() { return document_.Null(); }
+    bool Bool(bool value) { return document_.Bool(value); }
+    bool Int(int value) { return document_.Int(value); }
+    bool Uint(unsigned value) { return document_.Uint(value); }
+    bool Int64(std::int64_t value) { return document_.Int64(value); }
+    bool Uint64(std::uint64_t value) { return document_.Uint64(value); }
+    bool Double(double value) { return document_.Double(value); }
+    bool String(const char* text, rapidjson::SizeType size, bool copy) { return document_.String(text, size, copy); }
+    bool StartObject() { return document_.StartObject(); }
+    bool Key(const char* text, rapidjson::SizeType size, bool copy) { return document_.Key(text, size, copy); }
+    bool EndObject(rapidjson::SizeType size) { return document_.EndObject(size); }
+    bool StartArray() { return document_.StartArray(); }
+    bool EndArray(rapidjson::SizeType size) { return document_.EndArray(size); }
+
+    /// False when the number is too large.
+    bool RawNumber(const char* text, rapidjson::SizeType size, bool /*unused*/)
+    {
+        const auto number = readNumber({text, size});
+        return number && document_.Double(*number);
+    }
+
+private:
+    rapidjson::Document& document_;
+};
+
+std::string reasonFor(rapidjson::ParseErrorCode error)
+{
+    if (error == rapidjson::kParseErrorTermination) {
+        return "a number is too large";
+    }
+    std::string reason = rapidjson::GetParseError_En(error);
+    reason.erase(reason.find_last_not_of('.') + 1);
+    return reason;
 }
 
 /// Turns the text into entries, checked against the data set.
@@ -105,16 +151,20 @@ std::vector<Entry> DictionaryReader::read()
     return entries;
 }
 
-// Without recursion, so that no depth of nesting exhausts the stack, and in full precision, so that a missing code
-// equals the cell that spells the same number.
+// Without recursion, so that no depth of nesting exhausts the stack.
 void DictionaryReader::parse()
 {
-    constexpr unsigned flags = rapidjson::kParseIterativeFlag | rapidjson::kParseFullPrecisionFlag;
-    document_.ParseInsitu<flags>(buffer_.data());
-    if (document_.HasParseError()) {
-        std::string reason = rapidjson::GetParseError_En(document_.GetParseError());
-        reason.erase(reason.find_last_not_of('.') + 1);
-        fail({document_.GetErrorOffset(), "this"}, "cannot be read as JSON: " + reason);
+    constexpr unsigned flags =
+        rapidjson::kParseInsituFlag | rapidjson::kParseIterativeFlag | rapidjson::kParseNumbersAsStringsFlag;
+    rapidjson::InsituStringStream stream(buffer_.data());
+    rapidjson::Reader reader;
+    const auto parseInto = [&](rapidjson::Document& document) {
+        NumberByNumber handler(document);
+        return !reader.Parse<flags>(stream, handler).IsError();
+    };
+    document_.Populate(parseInto);
+    if (reader.HasParseError()) {
+        fail({reader.GetErrorOffset(), "this"}, "cannot be read as JSON: " + reasonFor(reader.GetParseErrorCode()));
     }
 }
 

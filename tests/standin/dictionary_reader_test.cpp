@@ -38,6 +38,13 @@ TEST(DictionaryReader, AppliesEveryMember)
     EXPECT_EQ(a.valueLabels, (std::map<double, std::string>{{1, "one"}, {2.5, ""}}));
 }
 
+TEST(DictionaryReader, ReadsNumbersAsTheDataHaveThem)
+{
+    DataSet dataSet = readCsv("a\n0\n0.1\n123456789012345678901\n5\n", "d.csv");
+    applyDictionary(dataSet, R"({"variables": {"a": {"missing": [-0e90, 10e-2, 123456789012345678901]}}})", "v.json");
+    EXPECT_EQ(dataSet.variables[0].values, (Values{systemMissingValue, systemMissingValue, systemMissingValue, 5}));
+}
+
 TEST(DictionaryReader, LeavesTextsTexts)
 {
     DataSet dataSet = sample();

@@ -1,0 +1,42 @@
+// The statements of a chart, one to a line, through the drawing up to what gnuplot is told.
+#include "standin/drawing/chart.h"
+#include "fuzz/target.h"
+#include "standin/drawing/gnuplot_script.h"
+
+#include <rapidjson/document.h>
+
+namespace {
+
+using Allocator = rapidjson::Document::AllocatorType;
+
+rapidjson::Value columns(Allocator& allocator)
+{
+    rapidjson::Document columns(&allocator);
+    columns.Parse(R"({"xdata": [1, 2.5, 2.5, "NaN"], "ydata": [3, -1e300, 4, 1], "xMinMax": [0, 4], "y0": [0, 0],
+                      "y1": ["Infinity", 2], "y2": [1], "cref": ["line", "line"], "cmean": ["", "b\"q"]})");
+    return {columns, allocator};
+}
+
+}  // namespace
+
+int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    rapidjson::Document graph(rapidjson::kObjectType);
+    Allocator& allocator = graph.GetAllocator();
+    rapidjson::Value statements(rapidjson::kArrayType);
+    const std::string text = fuzz::textOf(data, size);
+    for (std::size_t begin = 0; begin <= text.size();) {
+        const std::size_t end = std::min(text.find('\n', begin), text.size());
+        statements.PushBack(rapidjson::Value(text.substr(begin, end - begin), allocator), allocator);
+        begin = end + 1;
+    }
+    graph.AddMember("type", "graph", allocator);
+    graph.AddMember("name", "chart", allocator);
+    graph.AddMember("data", columns(allocator), allocator);
+    graph.AddMember("gpl", statements, allocator);
+    try {
+        standin::gnuplotScript(standin::readChart(graph));
+    } catch (const standin::ChartError&) {  // the reason that stands in the picture's place
+    }
+    return 0;
+}

@@ -1,0 +1,38 @@
+// A command file through parser and module, over a small data set: nothing escapes, and the contract is kept.
+#include "fuzz/target.h"
+#include "module/entry/entry_point.h"
+#include "standin/csv_reader.h"
+#include "standin/input_error.h"
+#include "standin/session.h"
+
+#include <cstdlib>
+#include <iostream>
+
+namespace {
+
+void run(const standin::CommandText& command)
+{
+    standin::Session session;
+    session.dataSet = standin::readCsv("a,b,c,t,d e\n1,2,2,x,1\n3,5,,y,2\n4,4,5,x,3\n2,3,1,,4\n", "data.csv");
+    session.command = command;
+    session.run(BLDATMAN);
+    if (!session.monitor.breach().empty()) {
+        std::abort();
+    }
+}
+
+}  // namespace
+
+int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    std::cerr.rdbuf(nullptr);
+    const std::string text = fuzz::textOf(data, size);
+    run(standin::singleCommand(text));
+    try {
+        for (const standin::CommandText& command : standin::cutCommands(text, "commands.bld")) {
+            run(command);
+        }
+    } catch (const standin::InputError&) {  // what a user is told
+    }
+    return 0;
+}
