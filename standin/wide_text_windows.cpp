@@ -2,8 +2,6 @@
 
 #include <windows.h>
 
-#include <system_error>
-
 namespace standin {
 
 std::wstring wideText(std::string_view text)
@@ -26,7 +24,11 @@ std::string utf8Text(std::wstring_view text)
 
 std::string systemMessage(unsigned long error)
 {
-    return std::system_category().message(static_cast<int>(error));
+    std::wstring words(512, L'\0');
+    words.resize(FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr, error, 0,
+                                words.data(), static_cast<DWORD>(words.size()), nullptr));
+    words.erase(words.find_last_not_of(L"\r\n ") + 1);
+    return words.empty() ? "error " + std::to_string(error) : utf8Text(words);
 }
 
 }  // namespace standin

@@ -9,6 +9,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <memory>
+#include <optional>
 #include <system_error>
 
 namespace standin {
@@ -133,13 +134,13 @@ std::string runProgram(const std::vector<std::string>& command, const std::strin
     if (!itsInput || !errors || !fill(itsInput, input) || pipe2(pipeEnds.data(), O_CLOEXEC) != 0) {
         fail(command[0], errno);
     }
+    std::optional<Process> process;  // waited for after its pipe is closed, so that it ends when nobody reads on
     const Descriptor output(pipeEnds[0]);
     Descriptor itsOutput(pipeEnds[1]);
-    {
-        const Process process(command, Streams(fileno(itsInput.get()), itsOutput.number(), fileno(errors.get())));
-        itsOutput.close();
-        readToEnd(output.number(), takeOutput);
-    }
+    process.emplace(command, Streams(fileno(itsInput.get()), itsOutput.number(), fileno(errors.get())));
+    itsOutput.close();
+    readToEnd(output.number(), takeOutput);
+    process.reset();
     std::rewind(errors.get());
     std::string complaints;
     readToEnd(fileno(errors.get()), [&](std::string_view piece) { complaints += piece; });

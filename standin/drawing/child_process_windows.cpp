@@ -6,6 +6,7 @@
 
 #include <array>
 #include <memory>
+#include <optional>
 #include <system_error>
 
 namespace standin {
@@ -87,11 +88,27 @@ void readToEnd(const Handle& file, const std::function<void(std::string_view)>& 
     }
 }
 
+/// A word in quotes, as the run-time library of the started program takes it apart: a backslash stands for itself
+/// unless a quote follows.
+std::wstring quoted(const std::wstring& word)
+{
+    std::wstring text = L"\"";
+    std::size_t backslashes = 0;
+    for (const wchar_t c : word) {
+        if (c == L'"') {
+            text.append(backslashes + 1, L'\\');
+        }
+        backslashes = c == L'\\' ? backslashes + 1 : 0;
+        text += c;
+    }
+    return text.append(backslashes, L'\\') + L'"';
+}
+
 std::wstring commandLine(const std::vector<std::string>& command)
 {
     std::wstring line;
     for (const std::string& word : command) {
-        line += (line.empty() ? L"\"" : L" \"") + wideText(word) + L"\"";
+        line += (line.empty() ? L"" : L" ") + quoted(wideText(word));
     }
     return line;
 }
@@ -141,14 +158,14 @@ std::string runProgram(const std::vector<std::string>& command, const std::strin
         CreatePipe(&readEnd, &writeEnd, &inherited, 0) == 0) {
         fail(command[0], GetLastError());
     }
+    std::optional<Process> process;  // waited for after its pipe is closed, so that it ends when nobody reads on
     const Handle output(readEnd);
     Handle itsOutput(writeEnd);
     SetHandleInformation(readEnd, HANDLE_FLAG_INHERIT, 0);
-    {
-        const Process process(command, itsInput.get(), itsOutput.get(), errors.get());
-        itsOutput.reset();
-        readToEnd(output, takeOutput);
-    }
+    process.emplace(command, itsInput.get(), itsOutput.get(), errors.get());
+    itsOutput.reset();
+    readToEnd(output, takeOutput);
+    process.reset();
     rewindFile(errors);
     std::string complaints;
     readToEnd(errors, [&](std::string_view piece) { complaints += piece; });

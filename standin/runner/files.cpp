@@ -1,6 +1,7 @@
 #include "standin/runner/files.h"
 
 #include "standin/input_error.h"
+#include "standin/runner/file_names.h"
 #include "standin/runner/paths.h"
 
 #include <cerrno>
@@ -14,9 +15,10 @@ namespace fs = std::filesystem;
 
 namespace {
 
-std::string reasonOf(int error)
+/// Of the last call into the C library.
+std::string lastReason()
 {
-    return std::generic_category().message(error);
+    return reasonOf({errno, std::generic_category()});
 }
 
 /// The file itself where the path is a link, so that the link stays one.
@@ -38,6 +40,11 @@ fs::path partialNameBeside(const fs::path& file)
 
 }  // namespace
 
+std::string reasonOf(const std::error_code& error)
+{
+    return error.default_error_condition().message();
+}
+
 std::string readWholeFile(const fs::path& file)
 {
     std::error_code unknown;
@@ -47,7 +54,7 @@ std::string readWholeFile(const fs::path& file)
     errno = 0;
     std::ifstream stream(file, std::ios::binary);
     if (!stream) {
-        throw InputError(shown(file), "cannot be read: " + reasonOf(errno));
+        throw InputError(shown(file), "cannot be read: " + lastReason());
     }
     std::string bytes;
     const auto size = fs::file_size(file, unknown);
@@ -56,7 +63,7 @@ std::string readWholeFile(const fs::path& file)
     }
     bytes.assign(std::istreambuf_iterator<char>(stream), {});
     if (stream.bad()) {
-        throw InputError(shown(file), "cannot be read to its end: " + reasonOf(errno));
+        throw InputError(shown(file), "cannot be read to its end: " + lastReason());
     }
     return bytes;
 }
@@ -67,22 +74,23 @@ bool isSameFile(const fs::path& one, const fs::path& other)
     if (fs::equivalent(one, other, error)) {
         return true;
     }
-    return fs::weakly_canonical(fs::absolute(one), error) == fs::weakly_canonical(fs::absolute(other), error);
+    return isSameName(fs::weakly_canonical(fs::absolute(one), error), fs::weakly_canonical(fs::absolute(other), error));
 }
 
 OutputFile::OutputFile(const fs::path& file)
-    : file_(resolved(file))
+    : named_(file)
+    , file_(resolved(file))
     , partial_(partialNameBeside(file_))
 {
     std::error_code unknown;
     const fs::file_status status = fs::status(file_, unknown);
     if (fs::exists(status) && !fs::is_regular_file(status)) {
-        throw OutputError(shown(file) + ": cannot be written: it is not a file");
+        fail("it is not a file");
     }
     errno = 0;
     stream_.open(partial_, std::ios::binary);
     if (!stream_) {
-        throw OutputError(shown(file) + ": cannot be written: " + reasonOf(errno));
+        fail(lastReason());
     }
 }
 
@@ -90,6 +98,7 @@ OutputFile::~OutputFile()
 {
     stream_.close();
     std::error_code ignored;
+    fs::permissions(partial_, fs::perms::owner_write, fs::perm_options::add, ignored);  // without it some keep the file
     fs::remove(partial_, ignored);
 }
 
@@ -98,7 +107,7 @@ void OutputFile::write(const std::string& text)
     errno = 0;
     stream_ << text << std::flush;
     if (!stream_) {
-        fail(reasonOf(errno));
+        fail(lastReason());
     }
 }
 
@@ -107,7 +116,7 @@ void OutputFile::commit()
     errno = 0;
     stream_.close();
     if (!stream_) {
-        fail(errno != 0 ? reasonOf(errno) : "not everything could be written");
+        fail(errno != 0 ? lastReason() : "not everything could be written");
     }
     std::error_code error;
     const fs::file_status replaced = fs::status(file_, error);
@@ -116,13 +125,13 @@ void OutputFile::commit()
     }
     fs::rename(partial_, file_, error);
     if (error) {
-        fail(error.message());
+        fail(reasonOf(error));
     }
 }
 
 void OutputFile::fail(const std::string& reason) const
 {
-    throw OutputError(shown(file_) + ": cannot be written: " + reason);
+    throw OutputError(shown(named_) + ": cannot be written: " + reason);
 }
 
 }  // namespace standin

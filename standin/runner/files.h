@@ -5,6 +5,7 @@
 #include <fstream>
 #include <stdexcept>
 #include <string>
+#include <system_error>
 
 namespace standin {
 
@@ -17,6 +18,9 @@ class OutputError : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
 };
+
+/// Why something failed, in the same words on every system.
+std::string reasonOf(const std::error_code& error);
 
 /// True when both paths lead to one file, whether or not it exists.
 bool isSameFile(const std::filesystem::path& one, const std::filesystem::path& other);
@@ -45,7 +49,8 @@ public:
 private:
     [[noreturn]] void fail(const std::string& reason) const;
 
-    std::filesystem::path file_;
+    std::filesystem::path named_;  ///< as the user gave it
+    std::filesystem::path file_;   ///< what is replaced
     std::filesystem::path partial_;
     std::ofstream stream_;
 };

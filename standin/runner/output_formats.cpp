@@ -4,6 +4,7 @@
 #include "standin/render/render_json.h"
 #include "standin/render/render_text.h"
 #include "standin/runner/files.h"
+#include "standin/runner/paths.h"
 #include "standin/runner/plot_files.h"
 
 #include <algorithm>
@@ -54,6 +55,10 @@ constexpr std::array<OutputFormat, 4> formats = {{
 
 OutputWriter writerFor(std::string_view name)
 {
+    const std::filesystem::path place = pathOf(name);
+    if (!name.empty() && !place.has_filename()) {  // ends in what parts the names of paths here
+        return writePlotFiles;
+    }
     const auto* format =
         std::ranges::find_if(formats, [name](const auto& known) { return name.ends_with(known.ending); });
     return format == formats.end() ? nullptr : format->write;

@@ -64,7 +64,7 @@ void makeFolder(const fs::path& folder)
     std::error_code error;
     fs::create_directories(folder, error);
     if (error) {
-        throw OutputError(shown(folder) + ": cannot be made: " + error.message());
+        throw OutputError(shown(folder) + ": cannot be made: " + reasonOf(error));
     }
 }
 

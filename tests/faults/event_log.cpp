@@ -44,7 +44,7 @@ std::streamsize EventLog::xsputn(const char* text, std::streamsize size)
         throw std::length_error("the log is full");
     }
     text_ += added;
-    eventCount_ += std::ranges::count(added, '\n');
+    eventCount_ += static_cast<std::size_t>(std::ranges::count(added, '\n'));
     return size;
 }
 

@@ -1,6 +1,7 @@
 // Host calls and lines on the standard error stream, in the order in which they came.
 #pragma once
 
+#include <cstddef>
 #include <ostream>
 #include <streambuf>
 #include <string>
@@ -22,7 +23,7 @@ public:
     /// One text per event: a call as in a trace, with its tab, or a line without one.
     std::vector<std::string> events() const;
 
-    long eventCount() const { return eventCount_; }
+    std::size_t eventCount() const { return eventCount_; }
 
 protected:
     int_type overflow(int_type character) override;
@@ -30,7 +31,7 @@ protected:
 
 private:
     std::string text_;
-    long eventCount_ = 0;
+    std::size_t eventCount_ = 0;
     std::ostream stream_{this};
     std::streambuf* previousErrors_;
 };

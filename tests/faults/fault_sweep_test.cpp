@@ -78,7 +78,7 @@ struct Fault {
 /// What a run did.
 struct Run {
     Lines events;
-    std::vector<long> allocations;  ///< for each of the module, the events before it
+    std::vector<std::size_t> allocations;  ///< for each of the module, the events before it
     bool delivered = false;
     bool escaped = false;
     bool leaked = false;
@@ -339,7 +339,7 @@ public:
         Place reached = Place::Entry;
         std::size_t gap = 0;
         for (std::size_t n = 0; n < whole_.allocations.size(); ++n) {
-            const auto events = static_cast<std::size_t>(whole_.allocations[n]);
+            const std::size_t events = whole_.allocations[n];
             if (events != gap || n == 0) {
                 gap = events;
                 reached = expectation_.placeOf(events == 0 ? 0 : events - 1);

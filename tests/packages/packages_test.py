@@ -18,11 +18,11 @@ import zipfile
 ROOT, BUILD = map(pathlib.Path, sys.argv[1:3])
 CPACK, OBJDUMP = sys.argv[3:5]
 
-EMULATOR = os.environ.get("EMULATOR", "").split()
+EMULATOR = [program for program in [os.environ.get("EMULATOR")] if program]
 FOR_WINDOWS = bool(EMULATOR)
 SUFFIX = ".exe" if FOR_WINDOWS else ""
 # What the emulator sets up belongs into the build, not into the installed tree.
-ENVIRONMENT = {**os.environ, "WINEPREFIX": str(BUILD / "wine")}
+ENVIRONMENT = {**os.environ, "EMULATOR_PREFIX": str(BUILD / "wine")}
 
 for_windows = unittest.skipUnless(FOR_WINDOWS, "of the archive for Windows")
 for_debian = unittest.skipIf(FOR_WINDOWS, "of the package for Debian")
@@ -31,7 +31,7 @@ for_debian = unittest.skipIf(FOR_WINDOWS, "of the package for Debian")
 def output_of(*command, folder=None):
     result = subprocess.run(list(map(str, command)), cwd=folder, env=ENVIRONMENT, capture_output=True, encoding="utf-8",
                             check=False)
-    if result.returncode != 0 or result.stderr:
+    if result.returncode != 0:
         raise AssertionError(f"{command} ended with {result.returncode}:\n{result.stdout}{result.stderr}")
     return result.stdout
 

@@ -8,6 +8,7 @@ outputs in the documents are written anew, to be reviewed as a change.
 import glob
 import os
 import re
+import shlex
 import subprocess
 import sys
 import unittest
@@ -19,7 +20,8 @@ EXAMPLE = re.compile(r"^    \$ build/release/bin/bldatman-run ((?:.*\\\n)*.*\n)(
 
 def output_of(arguments):
     """What the program prints, indented as in a document."""
-    command = f"{os.environ.get('EMULATOR', '')} {PROGRAM} {re.sub(chr(10) + '    ', chr(10), arguments)}"
+    program = shlex.join(filter(None, [os.environ.get("EMULATOR"), PROGRAM]))
+    command = program + " " + arguments.replace("\n    ", "\n")
     output = subprocess.run(["bash", "-c", command], cwd=ROOT, capture_output=True, encoding="utf-8", check=True).stdout
     return "".join(f"    {line}\n" if line else "\n" for line in output.splitlines())
 

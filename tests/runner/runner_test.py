@@ -15,7 +15,7 @@ import unittest
 import xml.etree.ElementTree
 
 PROGRAM, MODULE, BAD_MODULE = sys.argv[1:4]
-EMULATOR = os.environ.get("EMULATOR", "").split()
+EMULATOR = [program for program in [os.environ.get("EMULATOR")] if program]
 
 natively = unittest.skipIf(EMULATOR, "of this system's own kind")
 with_gnuplot = unittest.skipIf(EMULATOR, "needs gnuplot")
@@ -376,6 +376,12 @@ class UnwritableOutput(Runner):
             result = self.run_program("d.csv", *arguments)
             self.assertTrue(result.stderr.startswith(f"bldatman-run: {arguments[-1]}: would be written over "))
             self.assertEqual((result.returncode, self.files(), self.read("d.csv")), (2, before, DATA))
+
+    @unittest.skipUnless(EMULATOR, "letter case tells files apart here")
+    def test_would_be_the_same_in_other_letters(self):
+        result = self.run_program("d.csv", "-c", GOOD, "-o", "report.txt", "--trace", "REPORT.TXT")
+        self.assertTrue(result.stderr.startswith("bldatman-run: REPORT.TXT: would be written over report.txt"))
+        self.assertEqual((result.returncode, self.files()), (2, ["d.csv"]))
 
     @natively
     def test_keeps_the_permissions_of_the_file_that_it_replaces(self):

@@ -14,7 +14,7 @@ import unittest
 
 PROGRAM, EXAMPLES, STORED = sys.argv[1:4]
 
-EMULATOR = os.environ.get("EMULATOR", "").split()
+EMULATOR = [program for program in [os.environ.get("EMULATOR")] if program]
 GNUPLOT = "gnuplot-5.4"
 OUTPUTS = {"full": ["full.txt", "full.json"], "ratios": ["ratios.txt", "ratios.json"],
            "repeatability": ["repeatability.txt", "repeatability.json"]}

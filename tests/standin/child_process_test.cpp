@@ -2,6 +2,9 @@
 
 #include <gmock/gmock.h>
 
+#include <new>
+#include <string>
+
 namespace {
 
 using standin::ProcessError;
@@ -15,11 +18,17 @@ TEST(ChildProcess, PassesMoreThanAPipeHoldsInBothDirections)
         input += std::to_string(i) + "\n";
     }
     std::string output;
-    const std::string errors =
-        runProgram({BLDATMAN_PARROT, "an argument", "-d"}, input, [&](std::string_view piece) { output += piece; });
-    EXPECT_EQ(errors, "an argument\n-d\n");
+    const std::string errors = runProgram({BLDATMAN_PARROT, "an argument", R"(a "quote\" and \)", "-d"}, input,
+                                          [&](std::string_view piece) { output += piece; });
+    EXPECT_EQ(errors, "an argument\na \"quote\\\" and \\\n-d\n");
     EXPECT_EQ(output.size(), input.size());
     EXPECT_TRUE(output == input);
+}
+
+TEST(ChildProcess, EndsWhenItsReaderGivesUp)
+{
+    const auto giveUp = [](std::string_view) { throw std::bad_alloc(); };
+    EXPECT_THROW(runProgram({BLDATMAN_PARROT}, std::string(5000000, 'x'), giveUp), std::bad_alloc);
 }
 
 TEST(ChildProcess, NamesTheProgramThatIsNotThere)
