@@ -1,0 +1,263 @@
+// What must hold of whole commands whatever the data and the settings are: both are drawn, from seeds that stay the
+// same.
+#include "host/missing_value.h"
+#include "tests/support/command_run.h"
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <cmath>
+#include <random>
+#include <string>
+#include <vector>
+
+namespace {
+
+using rapidjson::Value;
+using standin::DataSet;
+using testing::UnorderedElementsAreArray;
+
+using Row = std::vector<double>;
+using Rows = std::vector<Row>;
+
+const char* const details = "Bland-Altman Analysis Details";
+const char* const biasTable = "Confidence Intervals of Mean Differences";
+const char* const limitsTable = "Confidence Intervals of Agreement Limits";
+const std::string everyTable = " PRINT(DETAILS ROWS=1000 MEANDIFF AGREEMENT)";
+
+class Draw {
+public:
+    explicit Draw(unsigned seed)
+        : engine_(seed)
+    {
+    }
+
+    int between(int least, int most) { return std::uniform_int_distribution<int>(least, most)(engine_); }
+
+    template <class Choice>
+    Choice oneOf(std::vector<Choice> choices)
+    {
+        return choices[static_cast<std::size_t>(between(0, static_cast<int>(choices.size()) - 1))];
+    }
+
+    /// Variables a to d on a grid of powers of two, where sums and differences are exact.
+    DataSet dataSet(int percentMissing)
+    {
+        DataSet dataSet;
+        dataSet.caseCount = static_cast<std::size_t>(between(6, 40));
+        for (const char* name : {"a", "b", "c", "d"}) {
+            standin::Variable& variable = dataSet.variables.emplace_back();
+            variable.name = name;
+            for (std::size_t i = 0; i < dataSet.caseCount; ++i) {
+                const bool isMissing = i > 2 && between(1, 100) <= percentMissing;
+                variable.values.push_back(isMissing ? systemMissingValue : between(-9999, 99999) / 64.0);
+            }
+        }
+        return dataSet;
+    }
+
+    std::string settings()
+    {
+        return " AGREEMENT_LIMITS=" + oneOf<std::string>({"95", "99", "1", "68", "TWOSD", "THREESD"}) +
+               " CILEVEL_AGREEMENT=" + std::to_string(between(0, 990) / 10.0) +
+               " CILEVEL_MEANDIFF=" + std::to_string(between(0, 990) / 10.0);
+    }
+
+    std::string onOff() { return oneOf<std::string>({"TRUE", "FALSE"}); }
+
+private:
+    std::mt19937 engine_;
+};
+
+class WholeCommands : public testing::TestWithParam<unsigned> {
+protected:
+    /// The document of a command over the data.
+    const Value& documentOf(const DataSet& dataSet, const std::string& command)
+    {
+        host.session.dataSet = dataSet;
+        const auto outcome = host.run(command);
+        EXPECT_TRUE(outcome.delivered) << command << '\n' << outcome.errors;
+        EXPECT_EQ(outcome.errors, "");
+        return host.document();
+    }
+
+    static Rows cellsOf(const Value& document, const char* table)
+    {
+        Rows rows;
+        for (const Value& object : document["objects"].GetArray()) {
+            if (object["name"] == table) {
+                for (const Value& row : object["cells"].GetArray()) {
+                    Row& cells = rows.emplace_back();
+                    for (const Value& cell : row.GetArray()) {
+                        cells.push_back(cell.GetDouble());
+                    }
+                }
+            }
+        }
+        EXPECT_FALSE(rows.empty()) << table;
+        return rows;
+    }
+
+    static std::vector<std::string> objectsOf(const Value& document)
+    {
+        std::vector<std::string> objects;
+        for (const Value& object : document["objects"].GetArray()) {
+            objects.push_back(tests::json(object));
+        }
+        return objects;
+    }
+
+    Draw draw{GetParam()};
+    tests::Host host{"a"};
+};
+
+Row scaled(Row row, double factor)
+{
+    std::ranges::transform(row, row.begin(), [factor](double value) { return value * factor; });
+    return row;
+}
+
+/// Negated, with its bounds changing places.
+Row mirrored(Row row, std::vector<std::size_t> order)
+{
+    Row result;
+    for (const std::size_t from : order) {
+        result.push_back(-row[from]);
+    }
+    return result;
+}
+
+double rounded(double value)
+{
+    return std::round(value * 1000.0) / 1000.0;
+}
+
+TEST_P(WholeCommands, MirrorWhenTheTwoVariablesChangePlaces)
+{
+    const DataSet dataSet = draw.dataSet(20);
+    const std::string rest =
+        " CRITERIA(LOGTRANSFORM=" + draw.onOff() + " PERCENTAGE=" + draw.onOff() + draw.settings() + ")" + everyTable;
+    const Value& document = documentOf(dataSet, "VARIABLE=a WITH=b" + rest);
+    const Value& swapped = documentOf(dataSet, "VARIABLE=b WITH=a" + rest);
+    Rows rows = cellsOf(document, details);
+    for (Row& row : rows) {
+        row = {row[1], row[0], row[2], -row[3], -row[4]};
+    }
+    EXPECT_EQ(rows, cellsOf(swapped, details));
+    for (std::size_t i = 0; i < 2; ++i) {
+        EXPECT_EQ(mirrored(cellsOf(document, biasTable)[i], {0, 2, 1}), cellsOf(swapped, biasTable)[i]);
+        EXPECT_EQ(mirrored(cellsOf(document, limitsTable)[i], {3, 5, 4, 0, 2, 1}), cellsOf(swapped, limitsTable)[i]);
+    }
+}
+
+TEST_P(WholeCommands, KeepTheDifferencesWhenBothVariablesAreShiftedAndScaleWithThem)
+{
+    const DataSet dataSet = draw.dataSet(20);
+    DataSet shifted = dataSet;
+    DataSet larger = dataSet;
+    const double shift = draw.between(-9999, 9999) / 64.0;
+    const double factor = std::ldexp(1.0, draw.between(-20, 20));
+    for (std::size_t variable = 0; variable < 2; ++variable) {
+        for (std::size_t i = 0; i < dataSet.caseCount; ++i) {
+            if (const double value = dataSet.variables[variable].values[i]; value != systemMissingValue) {
+                shifted.variables[variable].values[i] = value + shift;
+                larger.variables[variable].values[i] = value * factor;
+            }
+        }
+    }
+    const std::string command = "VARIABLE=a WITH=b CRITERIA(" + draw.settings() + ")" + everyTable;
+    const Value& document = documentOf(dataSet, command);
+    const Value& shiftedDocument = documentOf(shifted, command);
+    const Value& largerDocument = documentOf(larger, command);
+    const Rows rows = cellsOf(document, details);
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        EXPECT_EQ(rows[i][3], cellsOf(shiftedDocument, details)[i][3]);
+    }
+    for (const char* table : {biasTable, limitsTable}) {
+        const Rows intervals = cellsOf(document, table);
+        EXPECT_EQ(intervals[0], cellsOf(shiftedDocument, table)[0]);
+        EXPECT_EQ(scaled(intervals[0], factor), cellsOf(largerDocument, table)[0]);
+        EXPECT_EQ(intervals[1], cellsOf(largerDocument, table)[1]);
+    }
+}
+
+TEST_P(WholeCommands, GivePairedOnlyWhatAllCombinationsGive)
+{
+    const DataSet dataSet = draw.dataSet(15);
+    const std::string rest = " CRITERIA(SCOPE=" + draw.oneOf<std::string>({"ANALYSIS", "LISTWISE"}) + draw.settings() +
+                             ") PRINT(DETAILS MEANDIFF) PLOT(RATIO)";
+    const auto paired = objectsOf(documentOf(dataSet, "VARIABLE=a b WITH=c d PAIRED=YES" + rest));
+    const auto all = objectsOf(documentOf(dataSet, "VARIABLE=a b WITH=c d PAIRED=NO" + rest));
+    EXPECT_EQ(all.size(), 2 * paired.size());
+    for (const std::string& object : paired) {
+        EXPECT_EQ(std::ranges::count(all, object), 1);
+    }
+}
+
+TEST_P(WholeCommands, SortRowsAndPointsAndNothingElse)
+{
+    const DataSet dataSet = draw.dataSet(20);
+    const std::vector<std::string> keys = {"MEASUREMENT", "MEASUREMENT", "MEAN", "DIFFERENCE", "RATIO"};
+    const auto column = static_cast<std::size_t>(draw.between(1, 4));
+    const bool descending = draw.onOff() == "TRUE";
+    const std::string command = "VARIABLE=a WITH=b CRITERIA(" + draw.settings() +
+                                ") PRINT(ROWS=1000 MEANDIFF AGREEMENT "
+                                "DETAILS";
+    const Value& plain = documentOf(dataSet, command + ")");
+    const Value& sorted = documentOf(dataSet, command + " SORT(BY=" + keys[column] +
+                                                  " DESCENDING=" + (descending ? "TRUE" : "FALSE") + "))");
+    const Rows rows = cellsOf(sorted, details);
+    EXPECT_THAT(rows, UnorderedElementsAreArray(cellsOf(plain, details)));
+    const std::size_t key = column == 1 ? 0 : column;
+    EXPECT_TRUE(std::ranges::is_sorted(rows, [&](const Row& one, const Row& other) {
+        return descending ? one[key] > other[key] : one[key] < other[key];
+    })) << keys[column];
+    for (const char* table : {biasTable, limitsTable}) {
+        EXPECT_EQ(cellsOf(plain, table), cellsOf(sorted, table));
+    }
+    const Value& plot = sorted["objects"][3]["data"];
+    for (rapidjson::SizeType i = 0; i < rows.size(); ++i) {
+        EXPECT_EQ((Row{plot["xdata"][i].GetDouble(), plot["ydata"][i].GetDouble()}), (Row{rows[i][2], rows[i][3]}));
+    }
+}
+
+TEST_P(WholeCommands, AgreeInBothScopesWhereNothingIsMissing)
+{
+    const DataSet dataSet = draw.dataSet(0);
+    const auto command = [settings = draw.settings(), log = draw.onOff()](const std::string& scope) {
+        return "VARIABLE=a b WITH=c d CRITERIA(SCOPE=" + scope + " LOGTRANSFORM=" + log + settings + ")" + everyTable;
+    };
+    EXPECT_EQ(objectsOf(documentOf(dataSet, command("ANALYSIS"))), objectsOf(documentOf(dataSet, command("LISTWISE"))));
+}
+
+TEST_P(WholeCommands, TakePercentagesBeforeTheyRound)
+{
+    const DataSet dataSet = draw.dataSet(20);
+    const auto command = [settings = draw.settings()](const std::string& percentage) {
+        return "VARIABLE=a WITH=b CRITERIA(PERCENTAGE=" + percentage + settings + ")" + everyTable;
+    };
+    const Value& ratios = documentOf(dataSet, command("FALSE"));
+    const Value& percentages = documentOf(dataSet, command("TRUE"));
+    for (const char* table : {biasTable, limitsTable}) {
+        EXPECT_EQ(scaled(cellsOf(ratios, table)[1], 100.0), cellsOf(percentages, table)[1]);
+    }
+    Rows expected;
+    Rows expectedPercentages;
+    for (std::size_t i = 0; i < dataSet.caseCount; ++i) {
+        const double a = dataSet.variables[0].values[i];
+        const double b = dataSet.variables[1].values[i];
+        if (a != systemMissingValue && b != systemMissingValue) {
+            const double mean = (a + b) / 2;
+            const double ratio = mean == 0 ? 0 : (a - b) / mean;
+            expected.push_back({rounded(a), rounded(b), rounded(mean), rounded(a - b), rounded(ratio)});
+            expectedPercentages.push_back(expected.back());
+            expectedPercentages.back()[4] = rounded(ratio * 100);
+        }
+    }
+    EXPECT_EQ(expected, cellsOf(ratios, details));
+    EXPECT_EQ(expectedPercentages, cellsOf(percentages, details));
+}
+
+INSTANTIATE_TEST_SUITE_P(Drawn, WholeCommands, testing::Range(1U, 101U));
+
+}  // namespace
