@@ -5,6 +5,7 @@
 #include "standin/runner/paths.h"
 
 #include <cerrno>
+#include <cstdint>
 #include <iterator>
 #include <random>
 #include <system_error>
@@ -38,6 +39,14 @@ fs::path partialNameBeside(const fs::path& file)
     return file.parent_path() / (".bldatman-" + std::to_string(std::random_device{}()) + ".partial");
 }
 
+/// In bytes; 0 for what has no size beforehand, such as a pipe.
+std::uintmax_t sizeIfKnown(const fs::path& file)
+{
+    std::error_code unknown;
+    const std::uintmax_t size = fs::file_size(file, unknown);
+    return unknown ? 0 : size;
+}
+
 }  // namespace
 
 std::string reasonOf(const std::error_code& error)
@@ -57,13 +66,14 @@ std::string readWholeFile(const fs::path& file)
         throw InputError(shown(file), "cannot be read: " + lastReason());
     }
     std::string bytes;
-    const auto size = fs::file_size(file, unknown);
-    if (!unknown) {
-        bytes.reserve(size);
-    }
+    const std::uintmax_t size = sizeIfKnown(file);
+    bytes.reserve(size);
     bytes.assign(std::istreambuf_iterator<char>(stream), {});
     if (stream.bad()) {
         throw InputError(shown(file), "cannot be read to its end: " + lastReason());
+    }
+    if (size > 0 && (bytes.size() != size || sizeIfKnown(file) != size)) {
+        throw InputError(shown(file), "was changed while it was read");
     }
     return bytes;
 }

@@ -11,6 +11,7 @@
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
+#include <iostream>
 #include <string>
 
 namespace standin {
@@ -187,7 +188,11 @@ CommandLine readCommandLine(std::vector<std::string> arguments)
         return {checked(app, raw), exitDelivered};
     } catch (const CLI::Success& helpOrVersion) {
         app.exit(helpOrVersion);
-        return {std::nullopt, exitDelivered};
+        if (std::cout.flush()) {
+            return {std::nullopt, exitDelivered};
+        }
+        writeMessage(standardOutputFailed);
+        return {std::nullopt, exitOutputNotWritten};
     } catch (const CLI::ParseError& error) {
         writeMessage(std::string(error.what()) + "\nRun with --help for the options.");
     } catch (const InputError& error) {

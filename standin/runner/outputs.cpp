@@ -2,6 +2,7 @@
 
 #include "standin/drawing/picture_book.h"
 #include "standin/render/render_text.h"
+#include "standin/runner/messages.h"
 #include "standin/runner/output_style.h"
 #include "standin/runner/paths.h"
 #include "standin/runner/progress_line.h"
@@ -18,7 +19,7 @@ using Failures = std::vector<std::string>;
 Failures writeStandardOutput(const Session& session)
 {
     std::cout << renderText(session.documents, standardOutputStyle()) << std::flush;
-    return std::cout ? Failures{} : Failures{"the standard output cannot be written"};
+    return std::cout ? Failures{} : Failures{standardOutputFailed};
 }
 
 /// What `write` gives, which may run out of memory.

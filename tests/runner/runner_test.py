@@ -5,9 +5,12 @@ system's kind are kept.
 """
 
 import errno
+import glob
 import json
 import os
 import re
+import resource
+import signal
 import subprocess
 import sys
 import tempfile
@@ -351,6 +354,75 @@ class BrokenContract(Runner):
         self.assertNotIn("x.txt", self.files())
 
 
+class HostileSurroundings(Runner):
+    def test_bad_row_at_the_end_of_a_million(self):
+        self.write("long.csv", "a,b\n" + 1000000 * "1.5,2.25\n" + "1\n")
+        self.expect_nothing_run("long.csv:1000002: this row has 1 cell", "long.csv", "-c", GOOD, "-o", "x.json")
+
+    @natively
+    def test_data_that_shrink_while_they_are_read(self):
+        path = os.path.join(self.folder, "large.csv")
+        with open(path, "wb") as file:
+            file.truncate(1 << 28)
+        with subprocess.Popen([PROGRAM, "large.csv", "-c", GOOD, "-o", "x.txt"], cwd=self.folder, encoding="utf-8",
+                              stderr=subprocess.PIPE) as process:
+            while not self.is_reading(process, path):
+                self.assertIsNone(process.poll())
+            process.send_signal(signal.SIGSTOP)
+            os.truncate(path, 1000)
+            process.send_signal(signal.SIGCONT)
+            self.assertEqual(process.communicate(timeout=60)[1],
+                             "bldatman-run: large.csv: was changed while it was read\n")
+        self.assertEqual((process.returncode, self.files()), (2, ["d.csv", "large.csv"]))
+
+    @staticmethod
+    def is_reading(process, path):
+        """True once some of the file has been read."""
+        for name in glob.glob(f"/proc/{process.pid}/fd/*"):
+            try:
+                if os.readlink(name) == path:
+                    with open(name.replace("/fd/", "/fdinfo/"), encoding="ascii") as info:
+                        return int(info.readline().split()[1]) > 0
+            except FileNotFoundError:
+                pass
+        return False
+
+    @natively
+    def test_disk_that_is_full(self):
+        def fill_the_disk():
+            """As good as full: no file may grow beyond so many bytes."""
+            signal.signal(signal.SIGXFSZ, signal.SIG_IGN)
+            resource.setrlimit(resource.RLIMIT_FSIZE, (100, 100))
+
+        for output in ("x.json", "x.txt", "x.html", "plots/"):
+            result = subprocess.run([PROGRAM, "d.csv", "-c", GOOD, "-o", output], cwd=self.folder,
+                                    preexec_fn=fill_the_disk, restore_signals=False, capture_output=True,
+                                    encoding="utf-8", check=False)
+            self.assertRegex(result.stderr, "^bldatman-run: .*: cannot be (written|drawn): ")
+            self.assertEqual(result.returncode, 3, output)
+            self.assertEqual([name for _, _, names in os.walk(self.folder) for name in names], ["d.csv"])
+
+    @natively
+    def test_folder_that_cannot_be_written_to(self):
+        closed = "/proc" if os.geteuid() == 0 else os.path.join(self.folder, "closed")
+        if closed != "/proc":
+            os.mkdir(closed, 0o500)
+        for name in ("x.txt", "plots/"):
+            result = self.run_program("d.csv", "-c", GOOD, "-o", os.path.join(closed, name))
+            self.assertRegex(result.stderr, f"^bldatman-run: {closed}/{name}: cannot be (written|made): .+\n$")
+            self.assertEqual(result.returncode, 3)
+
+    @natively
+    def test_locale_with_a_decimal_comma(self):
+        outputs = [argument for name in ("x.json", "x.txt", "x.html", "./") for argument in ("-o", name)]
+        written = []
+        for environment in ({}, {"LC_ALL": "de_DE.UTF-8"}):
+            self.environment = {**os.environ, **environment}
+            self.expect(0, [], "d.csv", "-c", GOOD + " PLOT(RATIO AGREEMENT_LIMITS)", *outputs)
+            written.append({name: self.read(name) for name in self.files()})
+        self.assertEqual(written[0], written[1])
+
+
 class UnwritableOutput(Runner):
     def test_leaves_the_other_outputs_and_no_partial_file(self):
         os.mkdir(os.path.join(self.folder, "folder.json"))
@@ -416,8 +488,10 @@ class UnwritableOutput(Runner):
     def test_may_be_the_standard_one(self):
         with open("/dev/full", "w", encoding="utf-8") as full:
             result = self.run_program("d.csv", "-c", GOOD, output=full)
-        self.assertEqual(result.stderr, "bldatman-run: the standard output cannot be written\n")
-        self.assertEqual(result.returncode, 3)
+            told = self.run_program("--help", output=full)
+        for ended_with in (result, told):
+            self.assertEqual(ended_with.stderr, "bldatman-run: the standard output cannot be written\n")
+            self.assertEqual(ended_with.returncode, 3)
 
 
 if __name__ == "__main__":

@@ -1,0 +1,71 @@
+// A process whose C numeric locale writes a comma: labels follow it, data do not.
+#include "standin/drawing/chart.h"
+#include "standin/drawing/gnuplot_script.h"
+#include "standin/render/render_json.h"
+#include "tests/support/command_run.h"
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <clocale>
+#include <string>
+#include <vector>
+
+namespace {
+
+using testing::HasSubstr;
+
+class CommaLocale : public testing::Test {
+protected:
+    void SetUp() override
+    {
+        for (const char* name : {"de_DE.UTF-8", "German"}) {
+            if (std::setlocale(LC_NUMERIC, name) != nullptr && *std::localeconv()->decimal_point == ',') {
+                return;
+            }
+        }
+        GTEST_SKIP() << "no locale with a decimal comma";
+    }
+    void TearDown() override { std::setlocale(LC_NUMERIC, "C"); }
+};
+
+/// All that comes of one command, as texts.
+struct Written {
+    std::string data;
+    std::string script;
+    std::vector<std::string> trace;
+
+    friend bool operator==(const Written&, const Written&) = default;
+};
+
+Written written()
+{
+    tests::Host host("a,b;1.25,2.5;3.75,5;4.5,4.125");
+    const auto outcome =
+        host.run("VARIABLE=a WITH=b CRITERIA(CILEVEL_MEANDIFF=97.5) PRINT(MEANDIFF) PLOT(REFLINE CI_MEANDIFF)");
+    return {standin::renderJson(host.session.documents), standin::gnuplotScript(standin::readChart(host.object(1))),
+            outcome.trace};
+}
+
+std::string withPoints(std::string text)
+{
+    for (const char* level : {"97,50", "95,00"}) {
+        for (auto found = text.find(level); found != std::string::npos; found = text.find(level)) {
+            text[found + 2] = '.';
+        }
+    }
+    return text;
+}
+
+TEST_F(CommaLocale, ShowsInLabelsAndNowhereElse)
+{
+    Written withComma = written();
+    EXPECT_THAT(withComma.data, HasSubstr("\"97,50% Confidence Interval\""));
+    EXPECT_THAT(withComma.data, HasSubstr("\"95,00% Agreement Limit\""));
+    std::setlocale(LC_NUMERIC, "C");
+    withComma.data = withPoints(withComma.data);
+    std::ranges::transform(withComma.trace, withComma.trace.begin(), withPoints);
+    EXPECT_EQ(withComma, written());
+}
+
+}  // namespace
