@@ -21,7 +21,9 @@ endif()
 set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/archive)
 
 add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor -Wold-style-cast
-                    -Woverloaded-virtual)
+                    -Woverloaded-virtual -Wcast-qual -Wcast-align -Wformat=2 -Wundef -Wextra-semi -Wredundant-decls
+                    -Wmissing-declarations
+                    "$<$<CXX_COMPILER_ID:GNU>:-Wuseless-cast;-Wduplicated-cond;-Wduplicated-branches;-Wlogical-op>")
 
 # GCC 12 sees overlaps in the standard library's own string concatenation.
 add_compile_options($<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)

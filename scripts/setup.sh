@@ -44,4 +44,4 @@ build_packages=(g++ cmake ninja-build libboost-dev rapidjson-dev libcli11-dev li
 test_packages=(libgtest-dev libgmock-dev python3 binutils dpkg-dev file locales)
 windows_packages=(g++-mingw-w64-x86-64-posix googletest wine wine64)
 fuzz_packages=(clang-14 libclang-rt-14-dev)
-check_packages=(clang-format clang-tidy git)
+check_packages=(clang-format clang-tidy cppcheck gcovr git)

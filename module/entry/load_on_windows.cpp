@@ -3,6 +3,8 @@
 
 #include <windows.h>
 
+extern "C" BOOL WINAPI DllMain(HINSTANCE library, DWORD reason, LPVOID reserved);
+
 extern "C" BOOL WINAPI DllMain(HINSTANCE library, DWORD reason, LPVOID reserved)
 {
     return bldatman::loadHook(library, reason, reserved);

@@ -24,6 +24,8 @@ void commit(std::string_view name)
 
 }  // namespace
 
+extern "C" void BLDATMAN();
+
 extern "C" void BLDATMAN()
 {
     const char* const name = std::getenv("BLDATMAN_BREACH");
