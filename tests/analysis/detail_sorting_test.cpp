@@ -87,8 +87,10 @@ TEST(DetailSorting, RefusesUnknownKeysEmptyRecordsAndVectorsOfDifferentLengths)
     EXPECT_EQ(refusalOf(threeCases(), "mean"), "invalid argument: Invalid sort key: mean");
     EXPECT_EQ(refusalOf({}, "MEAN"), "invalid argument: The selected vector for sorting is empty.");
     BldatmanPairResult uneven = threeCases();
-    uneven.ratios.pop_back();
-    EXPECT_EQ(refusalOf(uneven, "MEAN"), "runtime error: Mismatch in vector sizes within the result structure.");
+    for (const std::size_t length : {2U, 4U}) {
+        uneven.ratios.resize(length);
+        EXPECT_EQ(refusalOf(uneven, "MEAN"), "runtime error: Mismatch in vector sizes within the result structure.");
+    }
 }
 
 }  // namespace

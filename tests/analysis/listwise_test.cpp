@@ -101,8 +101,8 @@ TEST(Listwise, ErasesOnlyWhereBothColumnsOfAPairAreLongEnough)
     EXPECT_THAT(first, ElementsAre(ElementsAre(1, 2), ElementsAre(4)));
     EXPECT_THAT(second, ElementsAre(ElementsAre(5, 6), ElementsAre(8)));
 
-    first = {{1, 2, 3}, {4, 5}};
-    second = {{6, notANumber, 7}, {8}};
+    first = {{missing, 1, 2, 3}, {9, 4, 5}};
+    second = {{5, 6, notANumber, 7}, {9, 8}};
     EXPECT_THROW(removeMissingCases(first, second), std::runtime_error);
     EXPECT_THAT(first, ElementsAre(ElementsAre(1, 3), ElementsAre(4, 5)));
     EXPECT_THAT(second, ElementsAre(ElementsAre(6, 7), ElementsAre(8)));

@@ -68,6 +68,15 @@ TEST(CaseReader, DescribesEachVariableByItsLevelAndLabel)
     EXPECT_EQ(&factory.createDataAccess({0}, source, {true, true, true}), &access);
 }
 
+TEST(CaseReader, SkipsAColumnThatTheDataDoNotHave)
+{
+    const tests::TracedSession host("a,b;1,2;3,4");
+    ProcedureDataSource source;
+    Columns columns;
+    readCaseColumns({2, 1, -1}, source, columns);
+    EXPECT_THAT(columns, ElementsAre(ElementsAre(2, 4)));
+}
+
 TEST(CaseReader, MakesItsHostObjectsInOrderAndReleasesThemUsersFirst)
 {
     tests::TracedSession host("a,b;1,2");

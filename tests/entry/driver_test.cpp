@@ -50,27 +50,29 @@ TEST(LoadHook, FetchesEachPointerOnceInOrderIntoItsOwnPlace)
 TEST(Driver, CreatesTheObjectsJustBeforeTheirStepAndDestroysThemInReverse)
 {
     Host host("a,b;1,2;2,4");
-    const auto calls = tests::callsOf(
-        host.run("VARIABLE=a WITH=b"),
-        {"BpProcedure::", "ProcedureDataSource::", "CommandDescriptor::CommandDescriptor",
-         "CommandDescriptor::~CommandDescriptor", "QUVO_TokenSequence::", "CommandSpec::CommandSpec",
-         "CommandSpec::~CommandSpec", "UniversalParser::", "ParserMessage::ParserMessage",
-         "ParserMessage::~ParserMessage", "StatJSONGenerator::", "StatJSONConverter::", "OPSCommonOutput::"});
-    EXPECT_THAT(calls, ElementsAre(R"(BpProcedure::BpProcedure ["BLDATMAN",10])",
-                                   "ProcedureDataSource::ProcedureDataSource []",
-                                   R"(CommandDescriptor::CommandDescriptor ["BLDATMAN"])",
-                                   "QUVO_TokenSequence::QUVO_TokenSequence [true]", "ParserMessage::ParserMessage []",
-                                   "CommandSpec::CommandSpec []", "UniversalParser::UniversalParser []",
-                                   "UniversalParser::getCommandSpecifications []", "ParserMessage::ParserMessage []",
-                                   R"(StatJSONGenerator::StatJSONGenerator ["Bland-Altman Analysis",""])",
-                                   "OPSCommonOutput::OPSCommonOutput [null]", "StatJSONConverter::StatJSONConverter []",
-                                   "StatJSONGenerator::getProcedureStatJSON []", "StatJSONConverter::generateOutput []",
-                                   "StatJSONConverter::~StatJSONConverter []", "OPSCommonOutput::~OPSCommonOutput []",
-                                   "StatJSONGenerator::~StatJSONGenerator []", "ParserMessage::~ParserMessage []",
-                                   "UniversalParser::~UniversalParser []", "CommandSpec::~CommandSpec []",
-                                   "ParserMessage::~ParserMessage []", "QUVO_TokenSequence::~QUVO_TokenSequence []",
-                                   "CommandDescriptor::~CommandDescriptor []",
-                                   "ProcedureDataSource::~ProcedureDataSource []", "BpProcedure::~BpProcedure []"));
+    const auto calls =
+        tests::callsOf(host.run("VARIABLE=a WITH=b"),
+                       {"BpProcedure::", "ProcedureDataSource::", "CommandDescriptor::CommandDescriptor",
+                        "CommandDescriptor::~CommandDescriptor", "QUVO_TokenSequence::", "CommandSpec::CommandSpec",
+                        "CommandSpec::~CommandSpec", "UniversalParser::", "ParserMessage::ParserMessage",
+                        "ParserMessage::~ParserMessage", "ACAVarValidSpecs::~",
+                        "StatJSONGenerator::", "StatJSONConverter::", "OPSCommonOutput::"});
+    EXPECT_THAT(
+        calls, ElementsAre(R"(BpProcedure::BpProcedure ["BLDATMAN",10])", "ProcedureDataSource::ProcedureDataSource []",
+                           R"(CommandDescriptor::CommandDescriptor ["BLDATMAN"])",
+                           "QUVO_TokenSequence::QUVO_TokenSequence [true]", "ParserMessage::ParserMessage []",
+                           "CommandSpec::CommandSpec []", "UniversalParser::UniversalParser []",
+                           "UniversalParser::getCommandSpecifications []", "ParserMessage::ParserMessage []",
+                           "ACAVarValidSpecs::~ACAVarValidSpecs []", "ACAVarValidSpecs::~ACAVarValidSpecs []",
+                           R"(StatJSONGenerator::StatJSONGenerator ["Bland-Altman Analysis",""])",
+                           "OPSCommonOutput::OPSCommonOutput [null]", "StatJSONConverter::StatJSONConverter []",
+                           "StatJSONGenerator::getProcedureStatJSON []", "StatJSONConverter::generateOutput []",
+                           "StatJSONConverter::~StatJSONConverter []", "OPSCommonOutput::~OPSCommonOutput []",
+                           "StatJSONGenerator::~StatJSONGenerator []", "ACAVarValidSpecs::~ACAVarValidSpecs []",
+                           "ParserMessage::~ParserMessage []", "UniversalParser::~UniversalParser []",
+                           "CommandSpec::~CommandSpec []", "ParserMessage::~ParserMessage []",
+                           "QUVO_TokenSequence::~QUVO_TokenSequence []", "CommandDescriptor::~CommandDescriptor []",
+                           "ProcedureDataSource::~ProcedureDataSource []", "BpProcedure::~BpProcedure []"));
 }
 
 TEST(Driver, WritesOnlyTheStepTwoLineWhenTheParserRefuses)

@@ -69,6 +69,21 @@ void* operator new(std::size_t size, const std::nothrow_t& /*unused*/) noexcept
     return allocate(size);
 }
 
+void* operator new[](std::size_t size)
+{
+    return operator new(size);
+}
+
+void operator delete[](void* block) noexcept
+{
+    release(block);
+}
+
+void operator delete[](void* block, std::size_t /*size*/) noexcept
+{
+    release(block);
+}
+
 void operator delete(void* block) noexcept
 {
     release(block);

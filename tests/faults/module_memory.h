@@ -5,7 +5,8 @@
 
 namespace tests {
 
-/// While it lives, what the module allocates is counted, the host's own allocations are not. One at a time.
+/// While it lives, what the module allocates is counted, the host's own allocations are not: of a text that the host
+/// returns, only leak detection knows. One at a time.
 class ModuleMemory {
 public:
     /// @param failing  which allocation (from 1) is to fail with `std::bad_alloc`; 0: none

@@ -141,6 +141,14 @@ TEST(Tables, AreReleasedTableFirstThenDimensionThenCells)
                                    "Cells::~Cells []"));
 }
 
+TEST(Document, IsTitledInItsLanguage)
+{
+    Host host(twoCases);
+    host.session.setLanguage("de");
+    host.run("VARIABLE=a WITH=b");
+    EXPECT_STREQ(host.document()["title"].GetString(), "Bland-Altman-Analyse");
+}
+
 TEST(Tables, ComePairByPairBeforeAllPlots)
 {
     Host host("a,b,c;1,2,3;3,2,9");

@@ -20,7 +20,7 @@ struct Hosted {
     tests::TracedSession host{"a,b;1,2;3,4"};
 };
 
-struct Guest : Hosted, tests::Guest {};
+struct HostedGuest : Hosted, tests::Guest {};
 
 std::string breachRaisedBy(const std::function<void()>& action)
 {
@@ -36,8 +36,8 @@ class Contract : public testing::TestWithParam<Breach> {};
 
 TEST_P(Contract, NamesTheOperationThatBreaksItAndEndsThere)
 {
-    Guest guest;
-    EXPECT_EQ(breachRaisedBy([&guest] { GetParam().commit(guest); }), GetParam().error);
+    HostedGuest guest;
+    EXPECT_EQ(breachRaisedBy([&guest] { GetParam().commit(guest); }), GetParam().isRaised ? GetParam().error : "");
     EXPECT_EQ(guest.host.session.monitor.breach(), GetParam().error);
     for (int again = 0; again < 2; ++again) {
         EXPECT_EQ(breachRaisedBy([] { const OLang language; }), GetParam().error);
@@ -53,39 +53,20 @@ INSTANTIATE_TEST_SUITE_P(Guest, Contract, testing::ValuesIn(tests::breaches()), 
 
 TEST(ContractKept, WithAReferenceThatNoFootnoteFollows)
 {
-    Guest guest;
+    HostedGuest guest;
     guest.table->addFootnoteRefs(0);
     EXPECT_NO_THROW(guest.addTable(1, 1, {1}));
 }
 
 TEST(ContractKept, WithHeadersWithoutLeavesAndAnEmptyBody)
 {
-    Guest guest;
+    HostedGuest guest;
     EXPECT_NO_THROW(guest.addTable(0, 2, {}));
-}
-
-TEST(ContractAtDeletion, NotesTheChangedLastRecordWithoutAnException)
-{
-    Guest guest;
-    EXPECT_NO_THROW(guest.readRecord().changeRecord().without(guest.iterator));
-    const std::string error =
-        "ACAProcDataSourceIter::~ACAProcDataSourceIter: the values of the last record were changed";
-    guest.host.session.monitor.endCommand();  // finds more, but the first breach stays
-    EXPECT_EQ(guest.host.session.monitor.breach(), error);
-    EXPECT_EQ(breachRaisedBy([&guest] { guest.addChart(); }), error);
-}
-
-// Its owner knows not to delete it again.
-TEST(ContractAtDeletion, NotesACellThatTheModuleDeletesAfterHandingItOver)
-{
-    Guest guest;
-    delete Guest::add(*guest.tree, guest.cell());
-    EXPECT_EQ(guest.host.session.monitor.breach(), "Cell::~Cell: the module deleted what a host object owns");
 }
 
 TEST(ContractAtDeletion, LeavesNothingToReadInARecordThatIsOver)
 {
-    Guest guest;
+    HostedGuest guest;
     const double* kept = guest.readRecord().record->GetAll();
     EXPECT_EQ(*kept, 2.0);
     guest.readRecord();

@@ -40,19 +40,19 @@ const std::vector<Breach> all{
      "Descendants::addCell: a group was added to itself"},
     {"HeaderCellInARow",
      [](Guest& g) {
-         g.body.addCells({&*g.spare, Guest::add(*g.tree, g.cell())});
+         g.body->addCells({&*g.spare, Guest::add(*g.tree, g.cell())});
      },
      "Cells::addCells: a cell of the row was added before"},
     {"CellTwiceInARow",
      [](Guest& g) {
-         g.body.addCells({&*g.spare, &*g.spare});
+         g.body->addCells({&*g.spare, &*g.spare});
      },
      "Cells::addCells: one cell stands twice in the row"},
     {"CellInTwoRows",
      [](Guest& g) {
          Cell* cell = g.cell().release();
-         g.body.addCells({cell});
-         g.body.addCells({cell});
+         g.body->addCells({cell});
+         g.body->addCells({cell});
      },
      "Cells::addCells: a cell of the row was added before"},
     {"OneTreeForBothHeaders", [](Guest& g) { Dimension(&*g.table, g.tree.get(), g.tree.get()); },
@@ -83,6 +83,13 @@ const std::vector<Breach> all{
      "Table::set_dimensions: the dimension is not alive"},
     {"TableWithoutItsDimension", [](Guest& g) { g.without(g.dimension).table->addTableToProcedureJSON(); },
      "Table::addTableToProcedureJSON: the dimension is not alive"},
+    {"DeletedBody", [](Guest& g) { g.table->set_cells(deleted(g.body)); }, "Table::set_cells: the body is not alive"},
+    {"TableWithoutItsBody", [](Guest& g) { g.without(g.body).table->addTableToProcedureJSON(); },
+     "Table::addTableToProcedureJSON: the body is not alive"},
+    {"AdapterOverADeletedSpecification", [](Guest& g) { ACAInputAdapter(*deleted(g.validSpecs), g.source); },
+     "ACAInputAdapter::ACAInputAdapter: the validity specification is not alive"},
+    {"IteratorOverADeletedAdapter", [](Guest& g) { ACAProcDataSourceIter(*deleted(g.adapter), true); },
+     "ACAProcDataSourceIter::ACAProcDataSourceIter: the adapter is not alive"},
     {"CellOfADeletedTable", [](Guest& g) { Cell(deleted(g.table), CellTypeStandard); },
      "Cell::Cell: the table is not alive"},
     {"CellForADeletedDocument", [](Guest& g) { g.without(g.document).cell(); },
@@ -102,6 +109,10 @@ const std::vector<Breach> all{
      "RecKit::Record::Size: called on an object that is not alive"},
     {"RecordChanged", [](Guest& g) { g.readRecord().changeRecord().readRecord(); },
      "RecKit::RecordIterator::Next: the values of the last record were changed"},
+    {"LastRecordChanged", [](Guest& g) { g.readRecord().changeRecord().without(g.iterator); },
+     "ACAProcDataSourceIter::~ACAProcDataSourceIter: the values of the last record were changed", false},
+    {"CellDeletedAfterHandingItOver", [](Guest& g) { delete Guest::add(*g.tree, g.cell()); },
+     "Cell::~Cell: the module deleted what a host object owns", false},
     {"RecordPastTheEnd", [](Guest& g) { g.readRecord().readRecord().readRecord(); },
      "RecKit::RecordIterator::Next: no case is left"},
 };

@@ -30,7 +30,7 @@ struct Guest {
     Guest()
     {
         table->set_dimensions(&*dimension);
-        table->set_cells(&body);
+        table->set_cells(&*body);
     }
 
     std::unique_ptr<Cell> cell() { return std::make_unique<Cell>(&*table, CellTypeStandard); }
@@ -59,7 +59,7 @@ struct Guest {
         for (const int size : rowSizes) {
             std::vector<Cell*> row(static_cast<std::size_t>(size));
             std::ranges::generate(row, [this] { return cell().release(); });
-            body.addCells(row);
+            body->addCells(row);
         }
         table->addTableToProcedureJSON();
         return *table;
@@ -84,8 +84,8 @@ struct Guest {
     Guest& readRecord()
     {
         if (!iterator) {
-            validSpecs.AddVariable(1, false, true, true, true);
-            iterator.emplace(adapter, true);
+            validSpecs->AddVariable(1, false, true, true, true);
+            iterator.emplace(*adapter, true);
         }
         previous = std::exchange(record, iterator->Next());
         return *this;
@@ -112,8 +112,8 @@ struct Guest {
 
     std::optional<BpProcedure> procedure{std::in_place, "GUEST", 10};
     ProcedureDataSource source;
-    ACAVarValidSpecs validSpecs{true, true, true};
-    ACAInputAdapter adapter{validSpecs, source};
+    std::optional<ACAVarValidSpecs> validSpecs{std::in_place, true, true, true};
+    std::optional<ACAInputAdapter> adapter{std::in_place, *validSpecs, source};
     std::optional<ACAProcDataSourceIter> iterator;
     const RecKit::Record* record = nullptr;
     const RecKit::Record* previous = nullptr;
@@ -123,7 +123,7 @@ struct Guest {
     std::optional<Table> table{std::in_place, &*document, tableName};
     std::optional<Cell> spare{std::in_place, &*table, CellTypeStandard};
     std::optional<Dimension> dimension{std::in_place, &*table, group().release(), group().release()};
-    Cells body{&*table};
+    std::optional<Cells> body{std::in_place, &*table};
     std::unique_ptr<Descendants> tree = group();
     std::vector<double> numbers{1};
     std::vector<std::string> texts{"1"};

@@ -49,6 +49,14 @@ std::vector<std::string> inWords(const standin::SubcommandDescription& subcomman
     return words;
 }
 
+TEST(CommandDescriber, TellsTheHostWhoSpeaks)
+{
+    Description description;
+    EXPECT_THAT(tests::callsOf(description.traced.takeTrace(), {"ParserMessage::Set"}),
+                ElementsAre(R"(ParserMessage::SetCommandName ["BLDATMAN"])",
+                            R"(ParserMessage::SetProcedureTitle ["Bland Altman Analysis"])"));
+}
+
 TEST(CommandDescriber, DescribesFourSubcommandsInOrder)
 {
     Description host;
