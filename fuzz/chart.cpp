@@ -5,6 +5,8 @@
 
 #include <rapidjson/document.h>
 
+#include <algorithm>
+
 namespace {
 
 using Allocator = rapidjson::Document::AllocatorType;

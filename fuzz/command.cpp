@@ -7,8 +7,15 @@
 
 #include <cstdlib>
 #include <iostream>
+#include <streambuf>
 
 namespace {
+
+/// Takes what is written for the user.
+class Discarded : public std::streambuf {
+protected:
+    int_type overflow(int_type character) override { return traits_type::not_eof(character); }
+};
 
 void run(const standin::CommandText& command)
 {
@@ -25,7 +32,8 @@ void run(const standin::CommandText& command)
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    std::cerr.rdbuf(nullptr);
+    static Discarded discarded;
+    std::cerr.rdbuf(&discarded);
     const std::string text = fuzz::textOf(data, size);
     run(standin::singleCommand(text));
     try {

@@ -4,7 +4,18 @@
 #include "standin/dictionary_reader.h"
 #include "standin/input_error.h"
 
+#include <algorithm>
 #include <cstdlib>
+
+namespace {
+
+bool areEqual(const standin::Variable& one, const standin::Variable& other)
+{
+    return one.label == other.label && one.level == other.level && one.valueLabels == other.valueLabels &&
+           one.values == other.values;
+}
+
+}  // namespace
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
@@ -13,11 +24,8 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
     try {
         standin::applyDictionary(dataSet, fuzz::textOf(data, size), "names.json");
     } catch (const standin::InputError&) {
-        for (std::size_t i = 0; i < before.variables.size(); ++i) {
-            if (dataSet.variables[i].label != before.variables[i].label ||
-                dataSet.variables[i].values != before.variables[i].values) {
-                std::abort();
-            }
+        if (!std::ranges::equal(dataSet.variables, before.variables, areEqual)) {
+            std::abort();
         }
     }
     return 0;

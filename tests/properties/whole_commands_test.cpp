@@ -40,9 +40,11 @@ public:
         return choices[static_cast<std::size_t>(between(0, static_cast<int>(choices.size()) - 1))];
     }
 
-    /// Variables a to d on a grid of powers of two, where sums and differences are exact.
+    /// Variables a to d on a grid of powers of two, where sums and differences are exact. In a third of the draws the
+    /// grid is so narrow that values, means and differences repeat and are often zero.
     DataSet dataSet(int percentMissing)
     {
+        const bool isNarrow = between(1, 3) == 1;
         DataSet dataSet;
         dataSet.caseCount = static_cast<std::size_t>(between(6, 40));
         for (const char* name : {"a", "b", "c", "d"}) {
@@ -50,7 +52,8 @@ public:
             variable.name = name;
             for (std::size_t i = 0; i < dataSet.caseCount; ++i) {
                 const bool isMissing = i > 2 && between(1, 100) <= percentMissing;
-                variable.values.push_back(isMissing ? systemMissingValue : between(-9999, 99999) / 64.0);
+                const double value = isNarrow ? between(-3, 3) : between(-9999, 99999) / 64.0;
+                variable.values.push_back(isMissing ? systemMissingValue : value);
             }
         }
         return dataSet;
@@ -58,9 +61,11 @@ public:
 
     std::string settings()
     {
-        return " AGREEMENT_LIMITS=" + oneOf<std::string>({"95", "99", "1", "68", "TWOSD", "THREESD"}) +
-               " CILEVEL_AGREEMENT=" + std::to_string(between(0, 990) / 10.0) +
-               " CILEVEL_MEANDIFF=" + std::to_string(between(0, 990) / 10.0);
+        const auto limits = oneOf<std::string>({"95", "99", "1", "68", "TWOSD", "THREESD"});
+        const std::string levelOfLimits = std::to_string(between(0, 990) / 10.0);
+        const std::string levelOfBias = std::to_string(between(0, 990) / 10.0);
+        return " AGREEMENT_LIMITS=" + limits + " CILEVEL_AGREEMENT=" + levelOfLimits +
+               " CILEVEL_MEANDIFF=" + levelOfBias;
     }
 
     std::string onOff() { return oneOf<std::string>({"TRUE", "FALSE"}); }
@@ -115,6 +120,27 @@ Row scaled(Row row, double factor)
 {
     std::ranges::transform(row, row.begin(), [factor](double value) { return value * factor; });
     return row;
+}
+
+/// A document without all that a sort moves, and without the footnote that tells of it.
+std::string withoutRows(const Value& document)
+{
+    rapidjson::Document rest;
+    rest.CopyFrom(document, rest.GetAllocator());
+    for (Value& object : rest["objects"].GetArray()) {
+        if (object["name"] == details) {
+            object.RemoveMember("cells");
+            for (const char* list : {"footnotes", "footnoteRefs"}) {
+                const rapidjson::SizeType beforeSorting = 2;
+                object[list].Erase(object[list].Begin() + std::min(beforeSorting, object[list].Size()),
+                                   object[list].End());
+            }
+        } else if (object["type"] == "graph") {
+            object["data"].RemoveMember("xdata");
+            object["data"].RemoveMember("ydata");
+        }
+    }
+    return tests::json(rest);
 }
 
 /// Negated, with its bounds changing places.
@@ -184,8 +210,8 @@ TEST_P(WholeCommands, KeepTheDifferencesWhenBothVariablesAreShiftedAndScaleWithT
 TEST_P(WholeCommands, GivePairedOnlyWhatAllCombinationsGive)
 {
     const DataSet dataSet = draw.dataSet(15);
-    const std::string rest = " CRITERIA(SCOPE=" + draw.oneOf<std::string>({"ANALYSIS", "LISTWISE"}) + draw.settings() +
-                             ") PRINT(DETAILS MEANDIFF) PLOT(RATIO)";
+    const auto scope = draw.oneOf<std::string>({"ANALYSIS", "LISTWISE"});
+    const std::string rest = " CRITERIA(SCOPE=" + scope + draw.settings() + ") PRINT(DETAILS MEANDIFF) PLOT(RATIO)";
     const auto paired = objectsOf(documentOf(dataSet, "VARIABLE=a b WITH=c d PAIRED=YES" + rest));
     const auto all = objectsOf(documentOf(dataSet, "VARIABLE=a b WITH=c d PAIRED=NO" + rest));
     EXPECT_EQ(all.size(), 2 * paired.size());
@@ -212,9 +238,7 @@ TEST_P(WholeCommands, SortRowsAndPointsAndNothingElse)
     EXPECT_TRUE(std::ranges::is_sorted(rows, [&](const Row& one, const Row& other) {
         return descending ? one[key] > other[key] : one[key] < other[key];
     })) << keys[column];
-    for (const char* table : {biasTable, limitsTable}) {
-        EXPECT_EQ(cellsOf(plain, table), cellsOf(sorted, table));
-    }
+    EXPECT_EQ(withoutRows(plain), withoutRows(sorted));
     const Value& plot = sorted["objects"][3]["data"];
     for (rapidjson::SizeType i = 0; i < rows.size(); ++i) {
         EXPECT_EQ((Row{plot["xdata"][i].GetDouble(), plot["ydata"][i].GetDouble()}), (Row{rows[i][2], rows[i][3]}));

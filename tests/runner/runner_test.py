@@ -418,6 +418,8 @@ class HostileSurroundings(Runner):
         written = []
         for environment in ({}, {"LC_ALL": "de_DE.UTF-8"}):
             self.environment = {**os.environ, **environment}
+            subprocess.run([sys.executable, "-c", "import locale; locale.setlocale(locale.LC_ALL, '')"],
+                           env=self.environment, check=True)  # there is such a locale
             self.expect(0, [], "d.csv", "-c", GOOD + " PLOT(RATIO AGREEMENT_LIMITS)", *outputs)
             written.append({name: self.read(name) for name in self.files()})
         self.assertEqual(written[0], written[1])

@@ -1,7 +1,10 @@
 // A process whose C numeric locale writes a comma: labels follow it, data do not.
 #include "standin/drawing/chart.h"
 #include "standin/drawing/gnuplot_script.h"
+#include "standin/drawing/picture_book.h"
+#include "standin/render/render_html.h"
 #include "standin/render/render_json.h"
+#include "standin/render/render_text.h"
 #include "tests/support/command_run.h"
 
 #include <gmock/gmock.h>
@@ -24,7 +27,7 @@ protected:
                 return;
             }
         }
-        GTEST_SKIP() << "no locale with a decimal comma";
+        FAIL() << "no locale with a decimal comma; the package locales makes one";
     }
     void TearDown() override { std::setlocale(LC_NUMERIC, "C"); }
 };
@@ -32,6 +35,8 @@ protected:
 /// All that comes of one command, as texts.
 struct Written {
     std::string data;
+    std::string text;
+    std::string page;
     std::string script;
     std::vector<std::string> trace;
 
@@ -43,8 +48,10 @@ Written written()
     tests::Host host("a,b;1.25,2.5;3.75,5;4.5,4.125");
     const auto outcome =
         host.run("VARIABLE=a WITH=b CRITERIA(CILEVEL_MEANDIFF=97.5) PRINT(MEANDIFF) PLOT(REFLINE CI_MEANDIFF)");
-    return {standin::renderJson(host.session.documents), standin::gnuplotScript(standin::readChart(host.object(1))),
-            outcome.trace};
+    standin::PictureBook pictures(host.session.documents, [](std::size_t, std::size_t) {});
+    return {standin::renderJson(host.session.documents), standin::renderText(host.session.documents),
+            standin::renderHtml({host.session.documents, "en", pictures}),
+            standin::gnuplotScript(standin::readChart(host.object(1))), outcome.trace};
 }
 
 std::string withPoints(std::string text)
@@ -63,7 +70,9 @@ TEST_F(CommaLocale, ShowsInLabelsAndNowhereElse)
     EXPECT_THAT(withComma.data, HasSubstr("\"97,50% Confidence Interval\""));
     EXPECT_THAT(withComma.data, HasSubstr("\"95,00% Agreement Limit\""));
     std::setlocale(LC_NUMERIC, "C");
-    withComma.data = withPoints(withComma.data);
+    for (std::string* written : {&withComma.data, &withComma.text, &withComma.page}) {
+        *written = withPoints(*written);
+    }
     std::ranges::transform(withComma.trace, withComma.trace.begin(), withPoints);
     EXPECT_EQ(withComma, written());
 }
