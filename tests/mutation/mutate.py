@@ -62,7 +62,7 @@ class Worker:
         for name in filter(lambda name: (ROOT / name).exists(), tracked.splitlines()):
             target = self.source / name
             target.parent.mkdir(parents=True, exist_ok=True)
-            shutil.copy2(ROOT / name, target)
+            shutil.copy(ROOT / name, target)  # newer than what was built of an earlier change
         subprocess.run(["cmake", "-G", "Ninja", "-S", self.source, "-B", self.build, "-DCMAKE_BUILD_TYPE=Debug"], check=True,
                        stdout=subprocess.DEVNULL)
         self.changed = None
