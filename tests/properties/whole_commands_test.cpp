@@ -9,6 +9,7 @@
 #include <cmath>
 #include <random>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -92,10 +93,11 @@ protected:
         for (const Value& object : document["objects"].GetArray()) {
             if (object["name"] == table) {
                 for (const Value& row : object["cells"].GetArray()) {
-                    Row& cells = rows.emplace_back();
+                    Row cells;
                     for (const Value& cell : row.GetArray()) {
                         cells.push_back(cell.GetDouble());
                     }
+                    rows.push_back(std::move(cells));
                 }
             }
         }
