@@ -8,10 +8,10 @@
 namespace tests {
 
 struct Breach {
-    const char* name;
-    void (*commit)(Guest& guest);
-    const char* error;     ///< what the host says
-    bool isRaised = true;  ///< false: noticed at a deletion, which must not throw
+    const char* name = nullptr;
+    void (*commit)(Guest& guest) = nullptr;
+    const char* error = nullptr;  ///< what the host says
+    bool isRaised = true;         ///< false: noticed at a deletion, which must not throw
 };
 
 const std::vector<Breach>& breaches();

@@ -29,7 +29,7 @@ protected:
         }
         FAIL() << "no locale with a decimal comma; the package locales makes one";
     }
-    void TearDown() override { std::setlocale(LC_NUMERIC, "C"); }
+    void TearDown() override { EXPECT_NE(std::setlocale(LC_NUMERIC, "C"), nullptr); }
 };
 
 /// All that comes of one command, as texts.
@@ -69,7 +69,7 @@ TEST_F(CommaLocale, ShowsInLabelsAndNowhereElse)
     Written withComma = written();
     EXPECT_THAT(withComma.data, HasSubstr("\"97,50% Confidence Interval\""));
     EXPECT_THAT(withComma.data, HasSubstr("\"95,00% Agreement Limit\""));
-    std::setlocale(LC_NUMERIC, "C");
+    ASSERT_NE(std::setlocale(LC_NUMERIC, "C"), nullptr);
     for (std::string* written : {&withComma.data, &withComma.text, &withComma.page}) {
         *written = withPoints(*written);
     }
