@@ -2,7 +2,7 @@
 // export.
 #include "module/entry/load_hook.h"
 
-extern "C" void* __dso_handle;  // NOLINT(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp): the linker's name
+extern "C" void* __dso_handle;  // the linker's name
 
 namespace {
 
