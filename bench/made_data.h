@@ -1,0 +1,18 @@
+// Data for the benchmarks: the same for the same size.
+#pragma once
+
+#include "module/column.h"
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+namespace bench {
+
+/// Readings of about 450 with a spread of 100; so many cases of a hundred hold the system-missing value.
+std::vector<bldatman::Column> makeColumns(std::size_t columns, std::size_t cases, int percentMissing);
+
+/// Columns as a CSV file with the names v0, v1, ...
+std::string csvOf(const std::vector<bldatman::Column>& columns);
+
+}  // namespace bench

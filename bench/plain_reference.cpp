@@ -1,0 +1,129 @@
+#include "bench/plain_reference.h"
+
+#include "host/missing_value.h"
+#include "module/analysis/analysis.h"
+
+#include <algorithm>
+#include <bit>
+#include <cmath>
+#include <cstdint>
+
+namespace bench {
+
+namespace {
+
+using bldatman::BldatmanAnalysis;
+using bldatman::BldatmanPairResult;
+using bldatman::Column;
+
+double rounded(double value)
+{
+    return std::round(value * 1000.0) / 1000.0;
+}
+
+double logarithmOf(double value, bool wanted)
+{
+    return wanted && value > 0.0 ? std::log(value) : value;
+}
+
+bool areTheSame(const std::vector<double>& one, const std::vector<double>& other)
+{
+    return std::ranges::equal(one, other, [](double x, double y) {
+        return std::bit_cast<std::uint64_t>(x) == std::bit_cast<std::uint64_t>(y);
+    });
+}
+
+std::vector<double> scalarsOf(const BldatmanPairResult& r)
+{
+    return {r.meanDifference,
+            r.sdDifference,
+            r.meanDifferenceCiLower,
+            r.meanDifferenceCiUpper,
+            r.lowerLimit,
+            r.upperLimit,
+            r.lowerLimitCiLower,
+            r.lowerLimitCiUpper,
+            r.upperLimitCiLower,
+            r.upperLimitCiUpper,
+            r.meanOfMeans,
+            r.lowerLimitRelative,
+            r.upperLimitRelative,
+            r.lowerLimitCiLowerRelative,
+            r.lowerLimitCiUpperRelative,
+            r.upperLimitCiLowerRelative,
+            r.upperLimitCiUpperRelative};
+}
+
+}  // namespace
+
+BldatmanPairResult plainStatistics(const Column& a, const Column& b, bool logTransform)
+{
+    BldatmanPairResult r{};
+    std::vector<double> d;
+    double sumD = 0.0;
+    double sumM = 0.0;
+    for (std::size_t i = 0; i < a.size(); ++i) {
+        if (a[i] == systemMissingValue || b[i] == systemMissingValue) {
+            continue;
+        }
+        const double x = logarithmOf(a[i], logTransform);
+        const double y = logarithmOf(b[i], logTransform);
+        const double mean = (x + y) * 0.5;
+        d.push_back(x - y);
+        sumD += d.back();
+        sumM += mean;
+        r.valuesA.push_back(rounded(x));
+        r.valuesB.push_back(rounded(y));
+        r.means.push_back(rounded(mean));
+        r.differences.push_back(rounded(d.back()));
+        r.ratios.push_back(rounded(mean == 0.0 ? 0.0 : d.back() / mean));
+    }
+    const auto n = static_cast<double>(d.size());
+    r.meanDifference = sumD / n;
+    double squares = 0.0;
+    for (const double difference : d) {
+        squares += (difference - r.meanDifference) * (difference - r.meanDifference);
+    }
+    r.sdDifference = std::sqrt(squares / (n - 1.0));
+    const double t = BldatmanAnalysis::tQuantile(0.95, static_cast<int>(d.size()) - 1);
+    const double biasHalf = t * (r.sdDifference / std::sqrt(n));
+    const double limitHalf = std::sqrt(1.96 * 1.96 / (2.0 * (n - 1.0)) + 1.0 / n) * r.sdDifference * t;
+    r.meanDifferenceCiLower = r.meanDifference - biasHalf;
+    r.meanDifferenceCiUpper = r.meanDifference + biasHalf;
+    r.lowerLimit = r.meanDifference - 1.96 * r.sdDifference;
+    r.upperLimit = r.meanDifference + 1.96 * r.sdDifference;
+    r.lowerLimitCiLower = r.lowerLimit - limitHalf;
+    r.lowerLimitCiUpper = r.lowerLimit + limitHalf;
+    r.upperLimitCiLower = r.upperLimit - limitHalf;
+    r.upperLimitCiUpper = r.upperLimit + limitHalf;
+    r.meanOfMeans = sumM / n;
+    r.lowerLimitRelative = r.lowerLimit / r.meanOfMeans;
+    r.upperLimitRelative = r.upperLimit / r.meanOfMeans;
+    r.lowerLimitCiLowerRelative = r.lowerLimitCiLower / r.meanOfMeans;
+    r.lowerLimitCiUpperRelative = r.lowerLimitCiUpper / r.meanOfMeans;
+    r.upperLimitCiLowerRelative = r.upperLimitCiLower / r.meanOfMeans;
+    r.upperLimitCiUpperRelative = r.upperLimitCiUpper / r.meanOfMeans;
+    return r;
+}
+
+bool areTheSame(const BldatmanPairResult& one, const BldatmanPairResult& other)
+{
+    return areTheSame(scalarsOf(one), scalarsOf(other)) && areTheSame(one.valuesA, other.valuesA) &&
+           areTheSame(one.valuesB, other.valuesB) && areTheSame(one.means, other.means) &&
+           areTheSame(one.differences, other.differences) && areTheSame(one.ratios, other.ratios);
+}
+
+std::vector<Column> withoutMissingCases(const std::vector<Column>& columns)
+{
+    std::vector<Column> kept(columns.size());
+    for (std::size_t i = 0; i < columns.front().size(); ++i) {
+        const bool isWhole =
+            std::ranges::none_of(columns, [i](const Column& column) { return column[i] == systemMissingValue; });
+        for (std::size_t k = 0; isWhole && k < columns.size(); ++k) {
+            kept[k].push_back(columns[k][i]);
+        }
+    }
+    return kept;
+}
+
+}  // namespace bench

@@ -1,0 +1,105 @@
+"""Runs the benchmarks and prints what they came to: table.py BENCH RUNNER [PASSES]
+
+Times are medians over the passes; a ratio is taken within each pass, between rows that ran one after the other, and its
+median printed.
+"""
+
+import json
+import os
+import re
+import statistics
+import subprocess
+import sys
+import tempfile
+
+BENCH, RUNNER = map(os.path.abspath, sys.argv[1:3])
+PASSES = int(sys.argv[3]) if len(sys.argv) > 3 else 3
+
+SIZES = ["1000", "10000", "100000", "1000000"]
+# What is held against what at a million cases, and the most that it may be.
+RATIOS = [("PairStatistics", "FreshCopies", 2.0), ("Listwise", "ListwiseCopies", 3.0), ("DetailSort", "SortedPositions", 1.3)]
+LINEAR = ["PairStatistics", "Listwise", "ReadColumns", "ReadCsv", "WholeCommand"]
+PAIRS = ["2", "5", "10", "20"]
+
+
+def one_pass():
+    """Seconds by name and size, and the extra figures."""
+    text = subprocess.run([BENCH, "--benchmark_format=json"], capture_output=True, text=True, check=True).stdout
+    rows = {}
+    for row in json.loads(text)["benchmarks"]:
+        if row.get("error_occurred"):
+            raise SystemExit(f"{row['name']}: {row['error_message']}")
+        name, size = row["name"].split("/")[:2]
+        rows[name, size] = row
+    return rows
+
+
+def median(passes, value):
+    return statistics.median(value(rows) for rows in passes)
+
+
+def microseconds(rows, name, size):
+    return rows[name, size]["real_time"]
+
+
+def print_times(passes):
+    print(f"{'microseconds':20}" + "".join(f"{size:>14}" for size in SIZES))
+    for name in dict.fromkeys(name for name, size in passes[0] if size in SIZES):
+        times = [median(passes, lambda rows, size=size: microseconds(rows, name, size)) for size in SIZES]
+        print(f"{name:20}" + "".join(f"{time:14.1f}" for time in times))
+    print()
+    print(f"{'pairs of n variables':20}" + "".join(f"{'n = ' + size:>14}" for size in PAIRS))
+    for label, per in (("ManyPairs", lambda n: 1), ("  per pair", lambda n: n * (n - 1))):
+        times = [median(passes, lambda rows, size=size: microseconds(rows, "ManyPairs", size)) / per(int(size))
+                 for size in PAIRS]
+        print(f"{label:20}" + "".join(f"{time:14.1f}" for time in times))
+    print()
+
+
+def print_ratios(passes):
+    for name, yardstick, most in RATIOS:
+        ratio = median(passes, lambda rows: microseconds(rows, name, SIZES[-1]) / microseconds(rows, yardstick, SIZES[-1]))
+        print(f"{name} / {yardstick} at 1000000: {ratio:.2f} (at most {most})")
+    for name in LINEAR:
+        growth = median(passes, lambda rows: microseconds(rows, name, SIZES[-1]) / microseconds(rows, name, SIZES[-2]))
+        print(f"{name}, 1000000 to 100000 cases: {growth:.1f} times")
+    rate = median(passes, lambda rows: rows["ReadCsv", SIZES[-1]]["bytes_per_second"]) / 1e6
+    print(f"ReadCsv at 1000000: {rate:.0f} MB/s")
+    parts = {part: median(passes, lambda rows: rows["WholeCommand", SIZES[-1]][part]) for part in
+             ("reading_s", "module_s", "writing_s")}
+    print("WholeCommand at 1000000, seconds: " + ", ".join(f"{part[:-2]} {time:.3f}" for part, time in parts.items()))
+
+
+def run_measured(folder, cases, *arguments):
+    """Peak resident bytes and seconds of a run of the program over so many cases."""
+    path = os.path.join(folder, f"{cases}.csv")
+    with open(path, "w", encoding="ascii") as file:
+        file.write("a,b\n")
+        file.writelines(f"{400 + i * 7919 % 1000 / 10},{405 + i * 104729 % 1000 / 10}\n" for i in range(cases))
+    result = subprocess.run(["/usr/bin/time", "-v", RUNNER, path, *arguments], cwd=folder, capture_output=True, text=True,
+                            check=True)
+    peak = int(re.search(r"Maximum resident set size \(kbytes\): (\d+)", result.stderr)[1]) * 1024
+    minutes, seconds = re.search(r"Elapsed .*: (?:\d+:)?(\d+):([\d.]+)", result.stderr).groups()
+    return peak, int(minutes) * 60 + float(seconds)
+
+
+def print_program():
+    with tempfile.TemporaryDirectory() as folder:
+        command = ["-c", "VARIABLE=a WITH=b PLOT(RATIO)", "-o", "x.json"]
+        _, start = run_measured(folder, 17, *command)
+        print(f"The program over 17 cases to JSON: {start:.2f} s")
+        for cases in (100000, 1000000):
+            peak, seconds = run_measured(folder, cases, *command)
+            print(f"The program over {cases} cases: {seconds:.2f} s, peak memory {peak / 1e6:.0f} MB, "
+                  f"{peak / (16 * cases):.1f} times the raw columns")
+
+
+def main():
+    passes = [one_pass() for _ in range(PASSES)]
+    print_times(passes)
+    print_ratios(passes)
+    print_program()
+
+
+if __name__ == "__main__":
+    main()
