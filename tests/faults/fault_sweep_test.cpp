@@ -34,8 +34,9 @@ Lines refusedSettings(Lines lines)
     return lines;
 }
 
-// Together they reach every table and every plot in each of their forms, and each way in which the settings are read or
-// refused. What no command can reach is a variable that is not scale being described to the host: it is refused before.
+// Together they reach every table and every plot in each of their forms, but for the plot of more points than are moved
+// apart, and each way in which the settings are read or refused. What no command can reach is a variable that is not
+// scale being described to the host: it is refused before.
 const std::vector<Command> commands{
     {"a", "b",
      "CRITERIA(CLASSMISSING=INCLUDE LOGTRANSFORM=TRUE PERCENTAGE=TRUE CILEVEL_AGREEMENT=90) PRINT(DETAILS ROWS=3 "
