@@ -47,7 +47,7 @@ if(BLDATMAN_FUZZ)
 endif()
 
 if(BLDATMAN_SANITIZE)
-    set(CMAKE_CXX_FLAGS_RELWITHDEBINFO "-O1 -g1")  # quick to build, and with the assertions of the libraries
+    set(CMAKE_CXX_FLAGS_RELWITHDEBINFO "-Og -g1")  # quick to build, and with the assertions of the libraries
     add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
     add_link_options(-fsanitize=address,undefined)
     # RapidJSON's empty stack adds to a null pointer.
