@@ -32,10 +32,10 @@ void CallMonitor::failAtCall(long n, std::function<void()> raise)
     raise_ = std::move(raise);
 }
 
-void CallMonitor::noteBreach(const std::string& operation, const std::string& rule) noexcept
+void CallMonitor::noteBreach(std::string_view operation, std::string_view rule) noexcept
 {
     if (breach_.empty()) {
-        breach_ = operation + ": " + rule;
+        breach_.append(operation).append(": ").append(rule);
     }
 }
 

@@ -49,7 +49,7 @@ public:
     const std::string& breach() const { return breach_; }
 
     /// Notes a breach without raising it, for places that must not throw.
-    void noteBreach(const std::string& operation, const std::string& rule) noexcept;
+    void noteBreach(std::string_view operation, std::string_view rule) noexcept;
 
     /// To be called when a command is over: a host object that the module still holds is a breach.
     void endCommand();

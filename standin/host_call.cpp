@@ -39,20 +39,20 @@ void HostCall::retire(const void* object)
     }
 }
 
-void HostCall::require(bool kept, const std::string& rule) const
+void HostCall::fail(std::string_view rule) const
 {
-    if (!kept) {
-        noteBreach(rule);
-        throw ContractBreach(std::string(operation_) + ": " + rule);
-    }
+    noteBreach(rule);
+    throw ContractBreach(std::string(operation_) + ": " + std::string(rule));
 }
 
 void HostCall::requireAlive(const void* object, const char* what) const
 {
-    require(object != nullptr && isAlive(object), std::string(what) + " is not alive");
+    if (object == nullptr || !isAlive(object)) {
+        fail(std::string(what) + " is not alive");
+    }
 }
 
-void HostCall::noteBreach(const std::string& rule) const noexcept
+void HostCall::noteBreach(std::string_view rule) const noexcept
 {
     if (monitor_ != nullptr) {
         monitor_->noteBreach(operation_, rule);

@@ -12,6 +12,7 @@
 #include "standin/trace_arguments.h"
 
 #include <string>
+#include <string_view>
 
 namespace standin {
 
@@ -62,8 +63,16 @@ public:
     void lends(const void* object, const char* className);
     void retire(const void* object);
 
-    /// @throws ContractBreach naming the operation, unless `kept`
-    void require(bool kept, const std::string& rule) const;
+    /// @throws ContractBreach  always, naming the operation
+    [[noreturn]] void fail(std::string_view rule) const;
+
+    /// The same unless `kept`.
+    void require(bool kept, std::string_view rule) const
+    {
+        if (!kept) {
+            fail(rule);
+        }
+    }
 
     /// True for a call from the module, false for one from another host operation.
     bool isFromGuest() const { return fromGuest_; }
@@ -74,7 +83,7 @@ public:
     void requireAlive(const void* object, const char* what) const;
 
     /// The same as a `require` that is not kept, for destructors.
-    void noteBreach(const std::string& rule) const noexcept;
+    void noteBreach(std::string_view rule) const noexcept;
 
 private:
     /// Whatever happens to the call, the monitor knows when the host has been left again.

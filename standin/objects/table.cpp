@@ -26,20 +26,25 @@ void requireConsistentBody(const HostCall& call, const Table::Data& table)
     const std::size_t columnCount = leafCount(*table.dimension->data->columns);
     const std::size_t rowCount = leafCount(*table.dimension->data->rows);
     const auto& rows = table.cells->data->rows;
-    call.require(rows.size() == rowCount, "the body has " + std::to_string(rows.size()) + " rows, the row headers " +
-                                              std::to_string(rowCount) + " leaves");
+    if (rows.size() != rowCount) {
+        call.fail("the body has " + std::to_string(rows.size()) + " rows, the row headers " + std::to_string(rowCount) +
+                  " leaves");
+    }
     for (std::size_t i = 0; i < rows.size(); ++i) {
-        call.require(rows[i].size() == columnCount,
-                     "row " + std::to_string(i + 1) + " of the body has " + std::to_string(rows[i].size()) +
-                         " cells, the column headers have " + std::to_string(columnCount) + " leaves");
+        if (rows[i].size() != columnCount) {
+            call.fail("row " + std::to_string(i + 1) + " of the body has " + std::to_string(rows[i].size()) +
+                      " cells, the column headers have " + std::to_string(columnCount) + " leaves");
+        }
     }
 }
 
 rapidjson::Value bodyOf(const Cells& cells, rapidjson::Document::AllocatorType& allocator)
 {
     rapidjson::Value body(rapidjson::kArrayType);
+    body.Reserve(static_cast<rapidjson::SizeType>(cells.data->rows.size()), allocator);
     for (const auto& row : cells.data->rows) {
         rapidjson::Value values(rapidjson::kArrayType);
+        values.Reserve(static_cast<rapidjson::SizeType>(row.size()), allocator);
         for (Cell* cell : row) {
             values.PushBack(cell->getJson(), allocator);
         }
@@ -127,9 +132,10 @@ void Table::set_default_cell_format(const QUVO_Format::FormatType& type, short w
 void Table::addFootnoteRefs(int index)
 {
     HostCall call(this, "Table::addFootnoteRefs", index);
-    call.require(index >= 0 && static_cast<std::size_t>(index) == data->footnotes.size(),
-                 "footnote " + std::to_string(index) + " is out of turn; the next one is " +
-                     std::to_string(data->footnotes.size()));
+    if (index < 0 || static_cast<std::size_t>(index) != data->footnotes.size()) {
+        call.fail("footnote " + std::to_string(index) + " is out of turn; the next one is " +
+                  std::to_string(data->footnotes.size()));
+    }
     data->footnoteRefs.push_back(index);
 }
 

@@ -14,7 +14,9 @@ namespace {
 void requireFree(const HostCall& call, const Cell* cell, const char* what)
 {
     call.requireAlive(cell, what);
-    call.require(!cell->data->added, std::string(what) + " was added before");
+    if (cell->data->added) {
+        call.fail(std::string(what) + " was added before");
+    }
 }
 
 /// The document of a table that a cell is made for.
@@ -119,6 +121,7 @@ rapidjson::Value Descendants::getJson()
     HostCall call(this, "Descendants::getJson");
     auto& allocator = data->document->document.GetAllocator();
     rapidjson::Value children(rapidjson::kArrayType);
+    children.Reserve(static_cast<rapidjson::SizeType>(data->group->children.size()), allocator);
     for (Cell* child : data->group->children) {
         rapidjson::Value value = child->getJson();
         if (!child->data->isGroup()) {
