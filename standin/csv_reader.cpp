@@ -88,8 +88,11 @@ void addCell(Variable& variable, const CsvCell& cell, bool decimalComma)
     }
 }
 
+/// So many cases are read between two words about it.
+constexpr std::size_t casesPerStep = 1 << 14;
+
 /// Reads all cases. A variable stops at its first text: its numbers up to there are texts as well.
-void readNumbers(DataSet& dataSet, CsvRows rows)
+void readNumbers(DataSet& dataSet, CsvRows rows, const ReadingProgress& progress)
 {
     const bool decimalComma = rows.delimiter() != ',';
     std::vector<CsvCell> cells;
@@ -98,6 +101,9 @@ void readNumbers(DataSet& dataSet, CsvRows rows)
             if (!dataSet.variables[i].firstText) {
                 addCell(dataSet.variables[i], cells[i], decimalComma);
             }
+        }
+        if (progress && dataSet.caseCount % casesPerStep == 0) {
+            progress(rows.bytesRead(), rows.byteCount());
         }
     }
 }
@@ -151,13 +157,13 @@ void readTexts(DataSet& dataSet, CsvRows rows)
 
 }  // namespace
 
-DataSet readCsv(std::string_view text, const std::string& fileName)
+DataSet readCsv(std::string_view text, const std::string& fileName, const ReadingProgress& progress)
 {
     CsvRows rows(requireUtf8(text, fileName), fileName);
     DataSet dataSet;
     dataSet.variables = readHeader(rows, fileName);
     // Each takes a copy of the walk and so begins at the first case.
-    readNumbers(dataSet, rows);
+    readNumbers(dataSet, rows, progress);
     readTexts(dataSet, rows);
     return dataSet;
 }

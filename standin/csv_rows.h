@@ -34,6 +34,9 @@ public:
 
     char delimiter() const { return delimiter_; }
 
+    std::size_t bytesRead() const { return offset_; }
+    std::size_t byteCount() const { return text_.size(); }
+
     /// Reads the next row into `cells`, which then hold at least one; false and no cell at the end of the text.
     ///
     /// @throws InputError  for a quote that is never closed, or that stands where none may

@@ -6,9 +6,10 @@
 
 #include <cerrno>
 #include <cstdint>
-#include <iterator>
+#include <istream>
 #include <random>
 #include <system_error>
+#include <vector>
 
 namespace standin {
 
@@ -47,6 +48,25 @@ std::uintmax_t sizeIfKnown(const fs::path& file)
     return unknown ? 0 : size;
 }
 
+using Progress = std::function<void(std::size_t done, std::size_t total)>;
+
+/// All that the stream still holds.
+/// @param size  how much that should be
+std::string readAll(std::istream& stream, std::size_t size, const Progress& progress)
+{
+    constexpr std::size_t chunkSize = 1 << 20;
+    std::string bytes;
+    bytes.reserve(size);
+    std::vector<char> chunk(chunkSize);
+    while (stream.read(chunk.data(), chunkSize) || stream.gcount() > 0) {
+        bytes.append(chunk.data(), static_cast<std::size_t>(stream.gcount()));
+        if (progress) {
+            progress(bytes.size(), size);
+        }
+    }
+    return bytes;
+}
+
 }  // namespace
 
 std::string reasonOf(const std::error_code& error)
@@ -54,7 +74,7 @@ std::string reasonOf(const std::error_code& error)
     return error.default_error_condition().message();
 }
 
-std::string readWholeFile(const fs::path& file)
+std::string readWholeFile(const fs::path& file, const Progress& progress)
 {
     std::error_code unknown;
     if (fs::is_directory(file, unknown)) {
@@ -65,10 +85,8 @@ std::string readWholeFile(const fs::path& file)
     if (!stream) {
         throw InputError(shown(file), "cannot be read: " + lastReason());
     }
-    std::string bytes;
     const std::uintmax_t size = sizeIfKnown(file);
-    bytes.reserve(size);
-    bytes.assign(std::istreambuf_iterator<char>(stream), {});
+    std::string bytes = readAll(stream, size, progress);
     if (stream.bad()) {
         throw InputError(shown(file), "cannot be read to its end: " + lastReason());
     }

@@ -1,8 +1,10 @@
 // Whole files in, whole files out.
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <stdexcept>
 #include <string>
 #include <system_error>
@@ -10,8 +12,10 @@
 namespace standin {
 
 /// The bytes of a file.
-/// @throws InputError  when it cannot be read
-std::string readWholeFile(const std::filesystem::path& file);
+/// @param progress  told now and then how many bytes have been read, and of how many where that is known; may be empty
+/// @throws InputError  when it cannot be read, or was changed meanwhile
+std::string readWholeFile(const std::filesystem::path& file,
+                          const std::function<void(std::size_t done, std::size_t total)>& progress = {});
 
 /// A file could not be written; `what()` says which and why.
 class OutputError : public std::runtime_error {

@@ -40,8 +40,9 @@ std::vector<std::string> writeOutputs(const Session& session, const Options& opt
     if (options.outputs.empty()) {
         return attempt("the standard output", [&] { return writeStandardOutput(session); });
     }
-    ProgressLine progress("Drawing plots");
-    PictureBook pictures(session.documents, [&](std::size_t drawn, std::size_t total) { progress.show(drawn, total); });
+    ProgressLine line;
+    PictureBook pictures(session.documents,
+                         [&](std::size_t drawn, std::size_t total) { line.show("Drawing plots", drawn, total); });
     const Report report{session.documents, options.language, pictures};
     Failures failures;
     for (const OutputRequest& output : options.outputs) {

@@ -9,16 +9,14 @@ namespace standin {
 
 namespace {
 
-/// Less than this is done before a line could be read.
-constexpr std::size_t littleWork = 20;
-
-/// The line is written so many times, not for each step.
-constexpr std::size_t steps = 100;
+/// Who waits for less does not ask how far it is.
+constexpr std::chrono::seconds patience{1};
 
 }  // namespace
 
-ProgressLine::ProgressLine(std::string what)
-    : what_(std::move(what))
+ProgressLine::ProgressLine()
+    : begin_(Clock::now())
+    , onTerminal_(isTerminal(StandardStream::Error))
 {
 }
 
@@ -27,18 +25,21 @@ ProgressLine::~ProgressLine()
     clear();
 }
 
-void ProgressLine::show(std::size_t done, std::size_t total)
+void ProgressLine::show(const std::string& what, std::size_t done, std::size_t total, const std::string& unit)
 {
     if (done == total) {
         clear();
         return;
     }
-    if (total < littleWork || done < next_ || !isTerminal(StandardStream::Error)) {
+    if (!onTerminal_ || Clock::now() - begin_ < patience) {
         return;
     }
-    shown_ = what_ + ": " + std::to_string(done) + " of " + std::to_string(total);
-    std::cerr << '\r' << shown_ << std::flush;
-    next_ = done + total / steps + 1;
+    std::string line = what + ": " + std::to_string(done) + (total == 0 ? "" : " of " + std::to_string(total)) + unit;
+    if (line != shown_) {
+        clear();
+        std::cerr << line << std::flush;
+        shown_ = std::move(line);
+    }
 }
 
 void ProgressLine::clear()

@@ -1,29 +1,34 @@
 // How far something long has come.
 #pragma once
 
+#include <chrono>
 #include <cstddef>
 #include <string>
 
 namespace standin {
 
 /// One line on a terminal that the standard error stream is shown on, "Drawing plots: 40 of 380", written over as the
-/// work goes on. Elsewhere, and for little work, nothing is shown.
+/// work goes on. Elsewhere, and before the work has taken a second, nothing is shown.
 class ProgressLine {
 public:
-    explicit ProgressLine(std::string what);
+    /// The work begins now.
+    ProgressLine();
     ~ProgressLine();
     ProgressLine(const ProgressLine&) = delete;
     ProgressLine& operator=(const ProgressLine&) = delete;
 
-    /// The line is gone once all is done.
-    void show(std::size_t done, std::size_t total);
+    /// The line is gone once all of `what` is done.
+    /// @param total  0 where it is not known
+    void show(const std::string& what, std::size_t done, std::size_t total, const std::string& unit = {});
 
 private:
+    using Clock = std::chrono::steady_clock;
+
     void clear();
 
-    std::string what_;
+    Clock::time_point begin_;
+    bool onTerminal_;
     std::string shown_;
-    std::size_t next_ = 0;  ///< how much must be done before the line is written again
 };
 
 }  // namespace standin

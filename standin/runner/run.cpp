@@ -9,10 +9,13 @@
 #include "standin/runner/module_library.h"
 #include "standin/runner/outputs.h"
 #include "standin/runner/paths.h"
+#include "standin/runner/progress_line.h"
 #include "standin/session.h"
 #include "standin/utf8.h"
 
 #include <algorithm>
+#include <filesystem>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -21,9 +24,21 @@ namespace standin {
 
 namespace {
 
+DataSet readCsvFile(const std::filesystem::path& file)
+{
+    constexpr std::size_t megabyte = 1000000;
+    const std::string name = shown(file);
+    ProgressLine line;
+    const auto show = [&line, &name](const char* what, std::size_t done, std::size_t total) {
+        line.show(what + name, done / megabyte, total / megabyte, " MB");
+    };
+    const std::string bytes = readWholeFile(file, std::bind_front(show, "Loading "));
+    return readCsv(bytes, name, std::bind_front(show, "Reading "));
+}
+
 DataSet readData(const Options& options)
 {
-    DataSet dataSet = readCsv(readWholeFile(options.dataFile), shown(options.dataFile));
+    DataSet dataSet = readCsvFile(options.dataFile);
     if (!options.dictionaryFile.empty()) {
         applyDictionary(dataSet, readWholeFile(options.dictionaryFile), shown(options.dictionaryFile));
     }

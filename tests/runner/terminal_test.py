@@ -4,11 +4,13 @@ import fcntl
 import os
 import pty
 import re
+import shutil
 import struct
 import subprocess
 import sys
 import tempfile
 import termios
+import time
 import unittest
 
 PROGRAM = sys.argv[1]
@@ -82,25 +84,59 @@ class StandardOutput(OnTerminal):
         self.assertIn("\ufffd[31ma b - b", plain)
 
 
+LONG = 1.1  # seconds: from one on it is told how far the work is
+
+
 class StandardError(OnTerminal):
-    def errors_of(self, names):
-        """What a terminal on standard error gets while a report of every two of so many variables is made."""
+    def errors_of(self, *arguments, meanwhile=lambda: None, **variables):
+        """What a terminal on standard error gets."""
+        screen, terminal = pty.openpty()
+        self.addCleanup(os.close, screen)
+        with self.start(subprocess.DEVNULL, *arguments, errors=terminal, **variables):
+            os.close(terminal)
+            meanwhile()
+            return shown_on(screen)
+
+    def assert_counts(self, what, total, shown):
+        """A line that is written over with higher and higher counts, and cleared in the end."""
+        counts = [int(count) for count in re.findall(rf"{what}: (\d+) of {total}\r", shown)]
+        self.assertTrue(counts and counts == sorted(set(counts)) and counts[-1] < int(re.match(r"\d+", total)[0]), shown)
+        self.assertRegex(shown, r"\r +\r$")
+
+    def write_many(self, names):
         rows = [",".join(str(i * j % 7) for j in range(names)) for i in range(1, 6)]
         with open(os.path.join(self.folder, "many.csv"), "w", encoding="utf-8") as file:
             file.write("\n".join([",".join(f"v{i}" for i in range(names)), *rows]))
-        arguments = ["many.csv", "-c", f"VARIABLE=v0:v{names - 1}", "-o", "x.html"]
-        screen, terminal = pty.openpty()
-        self.addCleanup(os.close, screen)
-        with self.start(subprocess.DEVNULL, *arguments, errors=terminal):
-            os.close(terminal)
-            return shown_on(screen)
+        return ["many.csv", "-c", f"VARIABLE=v0:v{names - 1}", "-o", "x.html"]
+
+    def gnuplot_that_takes_its_time(self):
+        """A search path with it in front."""
+        script = os.path.join(self.folder, "gnuplot")
+        with open(script, "w", encoding="ascii") as file:
+            file.write(f'#!/bin/sh\nsleep {LONG}\nexec {shutil.which("gnuplot")} "$@"\n')
+        os.chmod(script, 0o755)
+        return self.folder + os.pathsep + os.environ["PATH"]
 
     def test_shows_how_far_the_drawing_of_many_plots_has_come(self):
-        shown = self.errors_of(10)
-        counts = [int(count) for count in re.findall(r"\rDrawing plots: (\d+) of 90", shown)]
-        self.assertTrue(counts and counts == sorted(set(counts)) and counts[-1] < 90, shown)
-        self.assertRegex(shown, r"\r +\r$")
-        self.assertEqual(self.errors_of(3), "")
+        shown = self.errors_of(*self.write_many(10), PATH=self.gnuplot_that_takes_its_time())
+        self.assert_counts("Drawing plots", "90", shown)
+
+    def test_shows_how_far_the_reading_of_a_file_has_come(self):
+        """The file comes through a pipe that takes its time."""
+        pipe = os.path.join(self.folder, "slow.csv")
+        os.mkfifo(pipe)
+
+        def feed():
+            with open(pipe, "w", encoding="ascii") as file:
+                file.write("a,b\n")
+                time.sleep(LONG)
+                file.write("400.25,399.75\n" * 500000)
+
+        shown = self.errors_of("slow.csv", "-c", "VARIABLE=a WITH=b", "-o", "x.json", meanwhile=feed)
+        self.assert_counts("Reading slow.csv", "7 MB", shown)
+
+    def test_shows_nothing_for_what_is_quickly_done(self):
+        self.assertEqual(self.errors_of(*self.write_many(3)), "")
 
 
 if __name__ == "__main__":
