@@ -1,10 +1,10 @@
 // From bytes to columns, and whole commands with their parts.
-#include "bench/made_data.h"
 #include "module/data/case_reader.h"
 #include "module/entry/entry_point.h"
 #include "standin/csv_reader.h"
 #include "standin/render/render_json.h"
 #include "standin/session.h"
+#include "tests/support/made_data.h"
 
 #include <benchmark/benchmark.h>
 
@@ -34,8 +34,8 @@ bool hold(const standin::DataSet& dataSet, const std::vector<Column>& columns)
 
 void ReadCsv(benchmark::State& state)
 {
-    const std::vector<Column> columns = bench::makeColumns(2, casesOf(state), 2);
-    const std::string csv = bench::csvOf(columns);
+    const std::vector<Column> columns = tests::makeColumns(2, casesOf(state), 2);
+    const std::string csv = tests::csvOf(columns);
     if (!hold(standin::readCsv(csv, "made.csv"), columns)) {
         state.SkipWithError("the values read are not those written");
         return;
@@ -48,9 +48,9 @@ void ReadCsv(benchmark::State& state)
 
 void ReadColumns(benchmark::State& state)
 {
-    const std::vector<Column> columns = bench::makeColumns(2, casesOf(state), 2);
+    const std::vector<Column> columns = tests::makeColumns(2, casesOf(state), 2);
     standin::Session session;
-    session.dataSet = standin::readCsv(bench::csvOf(columns), "made.csv");
+    session.dataSet = standin::readCsv(tests::csvOf(columns), "made.csv");
     ProcedureDataSource source;
     const auto read = [&] {
         std::vector<Column> made;
@@ -121,7 +121,7 @@ void timeWhole(benchmark::State& state, const std::string& csv, const std::strin
 
 void WholeCommand(benchmark::State& state)
 {
-    const std::string csv = bench::csvOf(bench::makeColumns(2, casesOf(state), 2));
+    const std::string csv = tests::csvOf(tests::makeColumns(2, casesOf(state), 2));
     timeWhole(state, csv, "VARIABLE=v0 WITH=v1 PRINT(MEANDIFF AGREEMENT) PLOT(RATIO AGREEMENT_LIMITS)");
     state.SetItemsProcessed(state.iterations() * state.range(0));
 }
@@ -129,7 +129,7 @@ void WholeCommand(benchmark::State& state)
 void ManyPairs(benchmark::State& state)
 {
     const auto variables = casesOf(state);
-    const std::string csv = bench::csvOf(bench::makeColumns(variables, 1000, 2));
+    const std::string csv = tests::csvOf(tests::makeColumns(variables, 1000, 2));
     timeWhole(state, csv, "VARIABLE=v0:v" + std::to_string(variables - 1) + " PRINT(DETAILS MEANDIFF AGREEMENT)");
     state.SetItemsProcessed(state.iterations() * state.range(0) * (state.range(0) - 1));
 }

@@ -1,8 +1,8 @@
 // The computation of one pair, the listwise pass and the sort, each beside what moving its memory costs.
-#include "bench/made_data.h"
-#include "bench/plain_reference.h"
 #include "module/analysis/analysis.h"
 #include "module/analysis/listwise.h"
+#include "tests/support/made_data.h"
+#include "tests/support/plain_reference.h"
 
 #include <benchmark/benchmark.h>
 
@@ -50,7 +50,7 @@ void measure(benchmark::State& state, Prepare prepare, Timed timed)
 /// The yardstick: two value copies and five result vectors, freshly made.
 void FreshCopies(benchmark::State& state)
 {
-    const std::vector<Column> columns = bench::makeColumns(7, casesOf(state), 0);
+    const std::vector<Column> columns = tests::makeColumns(7, casesOf(state), 0);
     for (auto _ : state) {
         std::vector<Column> copies;
         copies.reserve(columns.size());
@@ -65,14 +65,14 @@ void FreshCopies(benchmark::State& state)
 
 void timePair(benchmark::State& state, bool logTransform)
 {
-    const std::vector<Column> pair = bench::makeColumns(2, casesOf(state), pairMissingPercent);
+    const std::vector<Column> pair = tests::makeColumns(2, casesOf(state), pairMissingPercent);
     BldatmanCriteriaSubcommand raw;
     raw.logTransform = logTransform ? "TRUE" : "FALSE";
     const BldatmanCriteriaSetting criteria(raw);
     const auto analyse = [&] {
         return BldatmanAnalysis::performBlandAltmanAnalysis("a", "b", pair[0], pair[1], criteria);
     };
-    if (!bench::areTheSame(analyse(), bench::plainStatistics(pair[0], pair[1], logTransform))) {
+    if (!tests::areTheSame(analyse(), tests::plainStatistics(pair[0], pair[1], criteria))) {
         state.SkipWithError("the record differs from the plain reference");
         return;
     }
@@ -98,7 +98,7 @@ using Lists = std::pair<std::vector<Column>, std::vector<Column>>;
 
 Lists eightColumns(std::size_t cases)
 {
-    std::vector<Column> columns = bench::makeColumns(8, cases, listMissingPercent);
+    std::vector<Column> columns = tests::makeColumns(8, cases, listMissingPercent);
     return {{columns.begin(), columns.begin() + 4}, {columns.begin() + 4, columns.end()}};
 }
 
@@ -121,7 +121,7 @@ void Listwise(benchmark::State& state)
     removeMissing(computed);
     std::vector<Column> all = lists.first;
     all.insert(all.end(), lists.second.begin(), lists.second.end());
-    std::vector<Column> expected = bench::withoutMissingCases(all);
+    std::vector<Column> expected = tests::withoutMissingCases(all);
     if (!std::equal(computed.first.begin(), computed.first.end(), expected.begin()) ||
         !std::equal(computed.second.begin(), computed.second.end(), expected.begin() + 4)) {
         state.SkipWithError("the columns differ from the plain reference");
@@ -133,7 +133,7 @@ void Listwise(benchmark::State& state)
 
 BldatmanPairResult recordOf(std::size_t cases)
 {
-    std::vector<Column> columns = bench::makeColumns(2, cases, 0);
+    std::vector<Column> columns = tests::makeColumns(2, cases, 0);
     return BldatmanAnalysis::performBlandAltmanAnalysis("a", "b", columns[0], columns[1], BldatmanCriteriaSetting());
 }
 

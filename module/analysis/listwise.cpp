@@ -1,6 +1,8 @@
 #include "module/analysis/listwise.h"
 
 #include "host/missing_value.h"
+#include "module/analysis/case_blocks.h"
+#include "module/analysis/column_arithmetic.h"
 
 #include <algorithm>
 #include <cmath>
@@ -28,36 +30,46 @@ bool haveOneLength(const Columns& first, const Columns& second)
            std::all_of(second.begin(), second.begin() + static_cast<std::ptrdiff_t>(first.size()), hasLength);
 }
 
-void markMissing(const Column& column, std::vector<char>& missing)
+std::vector<Column*> columnsOfPairs(Columns& first, Columns& second)
 {
-    for (std::size_t i = 0; i < column.size(); ++i) {
-        missing[i] = static_cast<char>(missing[i] | static_cast<char>(isMissing(column[i])));
+    std::vector<Column*> columns;
+    for (std::size_t k = 0; k < first.size(); ++k) {
+        columns.push_back(&first[k]);
+        columns.push_back(&second[k]);
     }
+    return columns;
 }
 
-void keepUnmarked(Column& column, const std::vector<char>& missing)
+/// Moves the unmarked values of the block up to the place `to` and returns the place behind them.
+std::size_t moveUp(Column& column, const CaseBlock& block, const std::vector<double>& marks, std::size_t to)
 {
-    std::size_t kept = 0;
-    for (std::size_t i = 0; i < column.size(); ++i) {
-        if (missing[i] == 0) {
-            column[kept++] = column[i];
-        }
+    for (std::size_t i = 0; i < block.size(); ++i) {
+        column[to] = column[block.begin + i];
+        to += marks[i] == 0.0 ? 1U : 0U;
     }
-    column.resize(kept);
+    return to;
 }
 
 /// With columns of one length the outcome of the removals one by one is known beforehand: the cases that are complete
-/// in every pair, in their order. One pass finds them, one pass keeps them.
+/// in every pair, in their order.
 void removeInOnePass(Columns& first, Columns& second)
 {
-    std::vector<char> missing(first.front().size(), 0);
-    for (std::size_t k = 0; k < first.size(); ++k) {
-        markMissing(first[k], missing);
-        markMissing(second[k], missing);
-    }
-    for (std::size_t k = 0; k < first.size(); ++k) {
-        keepUnmarked(first[k], missing);
-        keepUnmarked(second[k], missing);
+    const std::vector<Column*> columns = columnsOfPairs(first, second);
+    std::vector<double> marks;
+    std::size_t kept = 0;
+    forEachBlock(first.front().size(), [&](const CaseBlock& block) {
+        marks.assign(block.size(), 0.0);
+        for (const Column* column : columns) {
+            markMissing(block.of(*column), marks);
+        }
+        std::size_t end = kept;
+        for (Column* column : columns) {
+            end = moveUp(*column, block, marks, kept);
+        }
+        kept = end;
+    });
+    for (Column* column : columns) {
+        column->resize(kept);
     }
 }
 

@@ -1,6 +1,8 @@
 // The computation of one pair. The numbers in the comments are those of the promises in analysis.h.
 #include "host/missing_value.h"
 #include "module/analysis/analysis.h"
+#include "module/analysis/case_blocks.h"
+#include "module/analysis/column_arithmetic.h"
 #include "module/diagnostics.h"
 
 #include <boost/math/distributions/normal.hpp>
@@ -8,6 +10,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <span>
 #include <stdexcept>
 #include <utility>
 
@@ -33,66 +36,69 @@ double decimalFactor(int decimals)
     return decimals == 2 ? 100.0 : std::pow(10.0, decimals);
 }
 
-double roundWithFactor(double value, double factor)
+void takeLogarithms(std::span<double> values)
 {
-    return std::round(value * factor) / factor;
-}
-
-/// The working series of one pair. A and B are the pair's own copies, replaced by their logarithms where asked; M and
-/// D are the means and differences per case, unrounded.
-struct Series {
-    Column a;
-    Column b;
-    Column m;
-    Column d;
-
-    std::size_t count() const { return d.size(); }
-};
-
-void takeLogarithm(double& value)
-{
-    if (value > 0.0) {
-        value = std::log(value);
+    for (double& value : values) {
+        if (value > 0.0) {
+            value = std::log(value);
+        }
     }
 }
 
-/// Promise 3, and the means and differences.
-Series makeSeries(Column a, Column b, bool logTransform)
+/// Turns the pair's copies of its values into those of the record, and fills in the means and differences, which wait
+/// unrounded for the statistics. Promises 3 and 8.
+void setValues(BldatmanPairResult& record, Column a, Column b, bool logTransform)
 {
     const std::size_t count = std::min(a.size(), b.size());
-    Series series{std::move(a), std::move(b), Column(count), Column(count)};
-    for (std::size_t i = 0; i < count; ++i) {
+    a.resize(count);
+    b.resize(count);
+    record.valuesA = std::move(a);
+    record.valuesB = std::move(b);
+    record.means.reserve(count);
+    record.differences.reserve(count);
+    const double factor = decimalFactor(storedDecimals);
+    forEachBlock(count, [&](const CaseBlock& block) {
+        record.means.resize(block.end);
+        record.differences.resize(block.end);
+        const std::span<double> valuesA = block.of(record.valuesA);
+        const std::span<double> valuesB = block.of(record.valuesB);
         if (logTransform) {
-            takeLogarithm(series.a[i]);
-            takeLogarithm(series.b[i]);
+            takeLogarithms(valuesA);
+            takeLogarithms(valuesB);
         }
-        series.m[i] = (series.a[i] + series.b[i]) * 0.5;
-        series.d[i] = series.a[i] - series.b[i];
-    }
-    return series;
+        fillMeans(valuesA, valuesB, block.of(record.means));
+        fillDifferences(valuesA, valuesB, block.of(record.differences));
+        roundAll(valuesA, factor);
+        roundAll(valuesB, factor);
+    });
 }
 
-int degreesOfFreedom(const Series& series)
+std::size_t caseCount(const BldatmanPairResult& record)
 {
-    return static_cast<int>(series.count()) - 1;
+    return record.differences.size();
+}
+
+int degreesOfFreedom(const BldatmanPairResult& record)
+{
+    return static_cast<int>(caseCount(record)) - 1;
 }
 
 /// Promises 4 and 5.
-void setBias(BldatmanPairResult& record, const Series& series, double level)
+void setBias(BldatmanPairResult& record, double level)
 {
-    record.meanDifference = BldatmanAnalysis::computeMean(series.d);
-    record.sdDifference = BldatmanAnalysis::computeSD(series.d, record.meanDifference);
-    const double standardError = record.sdDifference / std::sqrt(static_cast<double>(series.count()));
-    const double t = BldatmanAnalysis::tQuantile(level / 100.0, degreesOfFreedom(series));
+    record.meanDifference = BldatmanAnalysis::computeMean(record.differences);
+    record.sdDifference = BldatmanAnalysis::computeSD(record.differences, record.meanDifference);
+    const double standardError = record.sdDifference / std::sqrt(static_cast<double>(caseCount(record)));
+    const double t = BldatmanAnalysis::tQuantile(level / 100.0, degreesOfFreedom(record));
     record.meanDifferenceCiLower = record.meanDifference - t * standardError;
     record.meanDifferenceCiUpper = record.meanDifference + t * standardError;
 }
 
 /// Promise 6.
-void setLimits(BldatmanPairResult& record, const Series& series, double agreementLimit, double level)
+void setLimits(BldatmanPairResult& record, double agreementLimit, double level)
 {
-    const auto n = static_cast<double>(series.count());
-    const double t = BldatmanAnalysis::tQuantile(level / 100.0, degreesOfFreedom(series));
+    const auto n = static_cast<double>(caseCount(record));
+    const double t = BldatmanAnalysis::tQuantile(level / 100.0, degreesOfFreedom(record));
     const double z = BldatmanAnalysis::agreementMultiplier(agreementLimit);
     record.upperLimit = record.meanDifference + z * record.sdDifference;
     record.lowerLimit = record.meanDifference - z * record.sdDifference;
@@ -104,9 +110,9 @@ void setLimits(BldatmanPairResult& record, const Series& series, double agreemen
 }
 
 /// Promise 7.
-void setRelativeLimits(BldatmanPairResult& record, const Series& series)
+void setRelativeLimits(BldatmanPairResult& record)
 {
-    record.meanOfMeans = BldatmanAnalysis::computeMean(series.m);
+    record.meanOfMeans = BldatmanAnalysis::computeMean(record.means);
     const auto relative = [&record](double limit) { return relativeToMean(limit, record.meanOfMeans); };
     record.lowerLimitRelative = relative(record.lowerLimit);
     record.lowerLimitCiLowerRelative = relative(record.lowerLimitCiLower);
@@ -116,42 +122,19 @@ void setRelativeLimits(BldatmanPairResult& record, const Series& series)
     record.upperLimitCiUpperRelative = relative(record.upperLimitCiUpper);
 }
 
-double ratioOf(double difference, double mean, bool percentage)
+/// Fills in the ratios, and rounds what has waited for it. Promise 8.
+void setRatios(BldatmanPairResult& record, bool percentage)
 {
-    if (mean == 0.0) {
-        return 0.0;
-    }
-    return percentage ? difference / mean * 100.0 : difference / mean;
-}
-
-/// The first `count` values, rounded.
-std::vector<double> rounded(const Column& values, std::size_t count)
-{
+    record.ratios.reserve(caseCount(record));
     const double factor = decimalFactor(storedDecimals);
-    std::vector<double> result(count);
-    std::transform(values.begin(), values.begin() + static_cast<std::ptrdiff_t>(count), result.begin(),
-                   [factor](double value) { return roundWithFactor(value, factor); });
-    return result;
-}
-
-std::vector<double> roundedRatios(const Series& series, bool percentage)
-{
-    const double factor = decimalFactor(storedDecimals);
-    std::vector<double> result(series.count());
-    for (std::size_t i = 0; i < result.size(); ++i) {
-        result[i] = roundWithFactor(ratioOf(series.d[i], series.m[i], percentage), factor);
-    }
-    return result;
-}
-
-/// Promise 8.
-void setCaseValues(BldatmanPairResult& record, const Series& series, bool percentage)
-{
-    record.valuesA = rounded(series.a, series.count());
-    record.valuesB = rounded(series.b, series.count());
-    record.ratios = roundedRatios(series, percentage);
-    record.differences = rounded(series.d, series.count());
-    record.means = rounded(series.m, series.count());
+    forEachBlock(caseCount(record), [&](const CaseBlock& block) {
+        record.ratios.resize(block.end);
+        fillRatios(block.of(record.differences), block.of(record.means), percentage ? 100.0 : 1.0,
+                   block.of(record.ratios));
+        for (auto* values : {&record.ratios, &record.differences, &record.means}) {
+            roundAll(block.of(*values), factor);
+        }
+    });
 }
 
 }  // namespace
@@ -167,11 +150,11 @@ BldatmanPairResult BldatmanAnalysis::performBlandAltmanAnalysis(const std::strin
     if (criteria.scope() == "ANALYSIS") {
         removeMissingPairs(a, b, std::min(a.size(), b.size()));
     }
-    const Series series = makeSeries(std::move(a), std::move(b), criteria.logTransform());
-    setBias(record, series, criteria.ciLevelMeanDiff());
-    setLimits(record, series, criteria.agreementLimit(), criteria.ciLevelAgreement());
-    setRelativeLimits(record, series);
-    setCaseValues(record, series, criteria.percentage());
+    setValues(record, std::move(a), std::move(b), criteria.logTransform());
+    setBias(record, criteria.ciLevelMeanDiff());
+    setLimits(record, criteria.agreementLimit(), criteria.ciLevelAgreement());
+    setRelativeLimits(record);
+    setRatios(record, criteria.percentage());
     return record;
 }
 
@@ -221,15 +204,11 @@ double BldatmanAnalysis::tQuantile(double fraction, int degreesOfFreedom)
 void BldatmanAnalysis::removeMissingPairs(Column& a, Column& b, std::size_t limit)
 {
     std::size_t kept = 0;
-    const auto keep = [&](std::size_t from) {
-        a[kept] = a[from];
-        b[kept] = b[from];
-        ++kept;
-    };
     for (std::size_t i = 0; i < limit; ++i) {
-        if (a[i] != systemMissingValue && b[i] != systemMissingValue) {
-            keep(i);
-        }
+        a[kept] = a[i];
+        b[kept] = b[i];
+        const bool isComplete = a[i] != systemMissingValue && b[i] != systemMissingValue;
+        kept += isComplete ? 1 : 0;
     }
     const auto closeGap = [kept, limit](Column& column) {
         column.erase(column.begin() + static_cast<std::ptrdiff_t>(kept),
@@ -241,7 +220,8 @@ void BldatmanAnalysis::removeMissingPairs(Column& a, Column& b, std::size_t limi
 
 double BldatmanAnalysis::roundToDecimals(double value, int decimals)
 {
-    return roundWithFactor(value, decimalFactor(decimals));
+    const double factor = decimalFactor(decimals);
+    return std::round(value * factor) / factor;
 }
 
 }  // namespace bldatman

@@ -1,4 +1,4 @@
-#include "bench/made_data.h"
+#include "tests/support/made_data.h"
 
 #include "host/missing_value.h"
 
@@ -7,7 +7,7 @@
 #include <cmath>
 #include <cstdint>
 
-namespace bench {
+namespace tests {
 
 namespace {
 
@@ -65,4 +65,4 @@ std::string csvOf(const std::vector<bldatman::Column>& columns)
     return csv;
 }
 
-}  // namespace bench
+}  // namespace tests

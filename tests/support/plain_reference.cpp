@@ -1,4 +1,4 @@
-#include "bench/plain_reference.h"
+#include "tests/support/plain_reference.h"
 
 #include "host/missing_value.h"
 #include "module/analysis/analysis.h"
@@ -8,11 +8,12 @@
 #include <cmath>
 #include <cstdint>
 
-namespace bench {
+namespace tests {
 
 namespace {
 
 using bldatman::BldatmanAnalysis;
+using bldatman::BldatmanCriteriaSetting;
 using bldatman::BldatmanPairResult;
 using bldatman::Column;
 
@@ -26,12 +27,23 @@ double logarithmOf(double value, bool wanted)
     return wanted && value > 0.0 ? std::log(value) : value;
 }
 
+double ratioOf(double difference, double mean, bool percentage)
+{
+    if (mean == 0.0) {
+        return 0.0;
+    }
+    return percentage ? difference / mean * 100.0 : difference / mean;
+}
+
+/// To the bit, but for which NaN it is.
 bool areTheSame(const std::vector<double>& one, const std::vector<double>& other)
 {
     return std::ranges::equal(one, other, [](double x, double y) {
-        return std::bit_cast<std::uint64_t>(x) == std::bit_cast<std::uint64_t>(y);
+        return std::bit_cast<std::uint64_t>(x) == std::bit_cast<std::uint64_t>(y) || (std::isnan(x) && std::isnan(y));
     });
 }
+
+}  // namespace
 
 std::vector<double> scalarsOf(const BldatmanPairResult& r)
 {
@@ -54,20 +66,18 @@ std::vector<double> scalarsOf(const BldatmanPairResult& r)
             r.upperLimitCiUpperRelative};
 }
 
-}  // namespace
-
-BldatmanPairResult plainStatistics(const Column& a, const Column& b, bool logTransform)
+BldatmanPairResult plainStatistics(const Column& a, const Column& b, const BldatmanCriteriaSetting& criteria)
 {
     BldatmanPairResult r{};
     std::vector<double> d;
     double sumD = 0.0;
     double sumM = 0.0;
-    for (std::size_t i = 0; i < a.size(); ++i) {
-        if (a[i] == systemMissingValue || b[i] == systemMissingValue) {
+    for (std::size_t i = 0; i < std::min(a.size(), b.size()); ++i) {
+        if (criteria.scope() == "ANALYSIS" && (a[i] == systemMissingValue || b[i] == systemMissingValue)) {
             continue;
         }
-        const double x = logarithmOf(a[i], logTransform);
-        const double y = logarithmOf(b[i], logTransform);
+        const double x = logarithmOf(a[i], criteria.logTransform());
+        const double y = logarithmOf(b[i], criteria.logTransform());
         const double mean = (x + y) * 0.5;
         d.push_back(x - y);
         sumD += d.back();
@@ -76,7 +86,7 @@ BldatmanPairResult plainStatistics(const Column& a, const Column& b, bool logTra
         r.valuesB.push_back(rounded(y));
         r.means.push_back(rounded(mean));
         r.differences.push_back(rounded(d.back()));
-        r.ratios.push_back(rounded(mean == 0.0 ? 0.0 : d.back() / mean));
+        r.ratios.push_back(rounded(ratioOf(d.back(), mean, criteria.percentage())));
     }
     const auto n = static_cast<double>(d.size());
     r.meanDifference = sumD / n;
@@ -85,24 +95,28 @@ BldatmanPairResult plainStatistics(const Column& a, const Column& b, bool logTra
         squares += (difference - r.meanDifference) * (difference - r.meanDifference);
     }
     r.sdDifference = std::sqrt(squares / (n - 1.0));
-    const double t = BldatmanAnalysis::tQuantile(0.95, static_cast<int>(d.size()) - 1);
-    const double biasHalf = t * (r.sdDifference / std::sqrt(n));
-    const double limitHalf = std::sqrt(1.96 * 1.96 / (2.0 * (n - 1.0)) + 1.0 / n) * r.sdDifference * t;
+    const int degreesOfFreedom = static_cast<int>(d.size()) - 1;
+    const double tBias = BldatmanAnalysis::tQuantile(criteria.ciLevelMeanDiff() / 100.0, degreesOfFreedom);
+    const double tLimits = BldatmanAnalysis::tQuantile(criteria.ciLevelAgreement() / 100.0, degreesOfFreedom);
+    const double z = BldatmanAnalysis::agreementMultiplier(criteria.agreementLimit());
+    const double biasHalf = tBias * (r.sdDifference / std::sqrt(n));
+    const double limitHalf = std::sqrt(z * z / (2.0 * (n - 1.0)) + 1.0 / n) * r.sdDifference * tLimits;
     r.meanDifferenceCiLower = r.meanDifference - biasHalf;
     r.meanDifferenceCiUpper = r.meanDifference + biasHalf;
-    r.lowerLimit = r.meanDifference - 1.96 * r.sdDifference;
-    r.upperLimit = r.meanDifference + 1.96 * r.sdDifference;
+    r.lowerLimit = r.meanDifference - z * r.sdDifference;
+    r.upperLimit = r.meanDifference + z * r.sdDifference;
     r.lowerLimitCiLower = r.lowerLimit - limitHalf;
     r.lowerLimitCiUpper = r.lowerLimit + limitHalf;
     r.upperLimitCiLower = r.upperLimit - limitHalf;
     r.upperLimitCiUpper = r.upperLimit + limitHalf;
     r.meanOfMeans = sumM / n;
-    r.lowerLimitRelative = r.lowerLimit / r.meanOfMeans;
-    r.upperLimitRelative = r.upperLimit / r.meanOfMeans;
-    r.lowerLimitCiLowerRelative = r.lowerLimitCiLower / r.meanOfMeans;
-    r.lowerLimitCiUpperRelative = r.lowerLimitCiUpper / r.meanOfMeans;
-    r.upperLimitCiLowerRelative = r.upperLimitCiLower / r.meanOfMeans;
-    r.upperLimitCiUpperRelative = r.upperLimitCiUpper / r.meanOfMeans;
+    const auto relative = [&r](double limit) { return r.meanOfMeans == 0.0 ? 0.0 : limit / r.meanOfMeans; };
+    r.lowerLimitRelative = relative(r.lowerLimit);
+    r.upperLimitRelative = relative(r.upperLimit);
+    r.lowerLimitCiLowerRelative = relative(r.lowerLimitCiLower);
+    r.lowerLimitCiUpperRelative = relative(r.lowerLimitCiUpper);
+    r.upperLimitCiLowerRelative = relative(r.upperLimitCiLower);
+    r.upperLimitCiUpperRelative = relative(r.upperLimitCiUpper);
     return r;
 }
 
@@ -126,4 +140,4 @@ std::vector<Column> withoutMissingCases(const std::vector<Column>& columns)
     return kept;
 }
 
-}  // namespace bench
+}  // namespace tests

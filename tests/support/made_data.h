@@ -1,4 +1,4 @@
-// Data for the benchmarks: the same for the same size.
+// Data to measure and compare with: the same for the same size, on every system.
 #pragma once
 
 #include "module/column.h"
@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-namespace bench {
+namespace tests {
 
 /// Readings of about 450 with a spread of 100; so many cases of a hundred hold the system-missing value.
 std::vector<bldatman::Column> makeColumns(std::size_t columns, std::size_t cases, int percentMissing);
@@ -15,4 +15,4 @@ std::vector<bldatman::Column> makeColumns(std::size_t columns, std::size_t cases
 /// Columns as a CSV file with the names v0, v1, ...
 std::string csvOf(const std::vector<bldatman::Column>& columns);
 
-}  // namespace bench
+}  // namespace tests

@@ -1,0 +1,63 @@
+#include "module/analysis/column_arithmetic.h"
+
+#include "host/missing_value.h"
+
+#include <cmath>
+#include <cstddef>
+
+namespace bldatman {
+
+namespace {
+
+/// std::round, which is a call for each value on processors without an instruction for it. Adding 2^52 leaves a double
+/// no room for a fraction, so that the addition itself rounds to an integer, halves to the even one; those that went
+/// down are sent up again. From 2^52 on every double is an integer. The sign of zero is kept.
+double roundedHalfAwayFromZero(double value)
+{
+    constexpr double noFractions = 0x1p52;
+    const double size = std::abs(value);
+    const double even = (size + noFractions) - noFractions;
+    const double away = even + (size - even == 0.5 ? 1.0 : 0.0);
+    return std::copysign(size < noFractions ? away : size, value);
+}
+
+}  // namespace
+
+void fillMeans(std::span<const double> a, std::span<const double> b, std::span<double> means)
+{
+    for (std::size_t i = 0; i < means.size(); ++i) {
+        means[i] = (a[i] + b[i]) * 0.5;
+    }
+}
+
+void fillDifferences(std::span<const double> a, std::span<const double> b, std::span<double> differences)
+{
+    for (std::size_t i = 0; i < differences.size(); ++i) {
+        differences[i] = a[i] - b[i];
+    }
+}
+
+void fillRatios(std::span<const double> differences, std::span<const double> means, double scale,
+                std::span<double> ratios)
+{
+    for (std::size_t i = 0; i < ratios.size(); ++i) {
+        const double ratio = differences[i] / means[i] * scale;
+        ratios[i] = means[i] == 0.0 ? 0.0 : ratio;
+    }
+}
+
+void roundAll(std::span<double> values, double factor)
+{
+    for (double& value : values) {
+        value = roundedHalfAwayFromZero(value * factor) / factor;
+    }
+}
+
+void markMissing(std::span<const double> values, std::span<double> marks)
+{
+    for (std::size_t i = 0; i < marks.size(); ++i) {
+        marks[i] = values[i] == systemMissingValue || std::isnan(values[i]) ? 1.0 : marks[i];
+    }
+}
+
+}  // namespace bldatman
