@@ -9,9 +9,9 @@ namespace bldatman {
 
 namespace {
 
-/// std::round, which is a call for each value on processors without an instruction for it. Adding 2^52 leaves a double
-/// no room for a fraction, so that the addition itself rounds to an integer, halves to the even one; those that went
-/// down are sent up again. From 2^52 on every double is an integer. The sign of zero is kept.
+/// std::round is a call for each value, and in one C library takes the last double below a half for a half. Adding 2^52
+/// leaves a double no room for a fraction, so that the addition itself rounds to an integer, halves to the even one;
+/// those that went down are sent up again. From 2^52 on every double is an integer. The sign of zero is kept.
 double roundedHalfAwayFromZero(double value)
 {
     constexpr double noFractions = 0x1p52;

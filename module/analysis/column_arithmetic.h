@@ -16,7 +16,7 @@ void fillDifferences(std::span<const double> a, std::span<const double> b, std::
 void fillRatios(std::span<const double> differences, std::span<const double> means, double scale,
                 std::span<double> ratios);
 
-/// values[i] = std::round(values[i] * factor) / factor: halves away from zero.
+/// values[i] = round(values[i] * factor) / factor, to the nearest integer, halves away from zero.
 void roundAll(std::span<double> values, double factor);
 
 /// marks[i] = 1 where the value is the system-missing value or no number; others stay as they are. All of one length.

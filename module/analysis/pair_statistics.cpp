@@ -220,8 +220,8 @@ void BldatmanAnalysis::removeMissingPairs(Column& a, Column& b, std::size_t limi
 
 double BldatmanAnalysis::roundToDecimals(double value, int decimals)
 {
-    const double factor = decimalFactor(decimals);
-    return std::round(value * factor) / factor;
+    roundAll(std::span(&value, 1), decimalFactor(decimals));
+    return value;
 }
 
 }  // namespace bldatman

@@ -17,11 +17,6 @@ using bldatman::BldatmanCriteriaSetting;
 using bldatman::BldatmanPairResult;
 using bldatman::Column;
 
-double rounded(double value)
-{
-    return std::round(value * 1000.0) / 1000.0;
-}
-
 double logarithmOf(double value, bool wanted)
 {
     return wanted && value > 0.0 ? std::log(value) : value;
@@ -66,8 +61,16 @@ std::vector<double> scalarsOf(const BldatmanPairResult& r)
             r.upperLimitCiUpperRelative};
 }
 
+double roundedHalfAwayFromZero(double value)
+{
+    const double size = std::abs(value);
+    const double whole = std::trunc(size);
+    return std::copysign(size - whole < 0.5 ? whole : whole + 1.0, value);
+}
+
 BldatmanPairResult plainStatistics(const Column& a, const Column& b, const BldatmanCriteriaSetting& criteria)
 {
+    const auto rounded = [](double value) { return roundedHalfAwayFromZero(value * 1000.0) / 1000.0; };
     BldatmanPairResult r{};
     std::vector<double> d;
     double sumD = 0.0;

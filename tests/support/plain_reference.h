@@ -9,6 +9,9 @@
 
 namespace tests {
 
+/// The nearest integer. (For comparing: one C library's own round is off just below a half.)
+double roundedHalfAwayFromZero(double value);
+
 /// The statistics of a pair, without its names.
 bldatman::BldatmanPairResult plainStatistics(const bldatman::Column& a, const bldatman::Column& b,
                                              const bldatman::BldatmanCriteriaSetting& criteria);
