@@ -1,4 +1,5 @@
 // From bytes to columns, and whole commands with their parts.
+#include "bench/allocator.h"
 #include "module/data/case_reader.h"
 #include "module/entry/entry_point.h"
 #include "standin/csv_reader.h"
@@ -136,12 +137,12 @@ void ManyPairs(benchmark::State& state)
 
 void upToAMillion(benchmark::internal::Benchmark* benchmark)
 {
-    benchmark->RangeMultiplier(10)->Range(1000, 1000000)->Unit(benchmark::kMicrosecond);
+    benchmark->RangeMultiplier(10)->Range(1000, 1000000)->Unit(benchmark::kMicrosecond)->Setup(bench::takeFreshMemory);
 }
 
 BENCHMARK(ReadColumns)->Apply(upToAMillion);
 BENCHMARK(ReadCsv)->Apply(upToAMillion);
 BENCHMARK(WholeCommand)->Apply(upToAMillion);
-BENCHMARK(ManyPairs)->Arg(2)->Arg(5)->Arg(10)->Arg(20)->Unit(benchmark::kMicrosecond);
+BENCHMARK(ManyPairs)->Arg(2)->Arg(5)->Arg(10)->Arg(20)->Unit(benchmark::kMicrosecond)->Setup(bench::takeFreshMemory);
 
 }  // namespace

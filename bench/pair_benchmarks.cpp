@@ -1,4 +1,5 @@
 // The computation of one pair, the listwise pass and the sort, each beside what moving its memory costs.
+#include "bench/allocator.h"
 #include "module/analysis/analysis.h"
 #include "module/analysis/listwise.h"
 #include "tests/support/made_data.h"
@@ -178,12 +179,23 @@ void DetailSort(benchmark::State& state)
 
 void upToAMillion(benchmark::internal::Benchmark* benchmark)
 {
-    benchmark->RangeMultiplier(10)->Range(1000, 1000000)->Unit(benchmark::kMicrosecond);
+    benchmark->RangeMultiplier(10)->Range(1000, 1000000)->Unit(benchmark::kMicrosecond)->Setup(bench::takeFreshMemory);
 }
 
 void upToAMillionByHand(benchmark::internal::Benchmark* benchmark)
 {
     upToAMillion(benchmark);
+    benchmark->UseManualTime();
+}
+
+void inKeptMemory(benchmark::internal::Benchmark* benchmark)
+{
+    benchmark->Arg(1000000)->Unit(benchmark::kMicrosecond)->Setup(bench::keepMemory);
+}
+
+void inKeptMemoryByHand(benchmark::internal::Benchmark* benchmark)
+{
+    inKeptMemory(benchmark);
     benchmark->UseManualTime();
 }
 
@@ -194,5 +206,12 @@ BENCHMARK(ListwiseCopies)->Apply(upToAMillion);
 BENCHMARK(Listwise)->Apply(upToAMillionByHand);
 BENCHMARK(SortedPositions)->Apply(upToAMillionByHand);
 BENCHMARK(DetailSort)->Apply(upToAMillionByHand);
+
+BENCHMARK(FreshCopies)->Name("KeptCopies")->Apply(inKeptMemory);
+BENCHMARK(PairStatistics)->Name("KeptPairStatistics")->Apply(inKeptMemory);
+BENCHMARK(ListwiseCopies)->Name("KeptListwiseCopies")->Apply(inKeptMemory);
+BENCHMARK(Listwise)->Name("KeptListwise")->Apply(inKeptMemoryByHand);
+BENCHMARK(SortedPositions)->Name("KeptSortedPositions")->Apply(inKeptMemoryByHand);
+BENCHMARK(DetailSort)->Name("KeptDetailSort")->Apply(inKeptMemoryByHand);
 
 }  // namespace
