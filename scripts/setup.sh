@@ -43,5 +43,6 @@ build_program() {
 build_packages=(g++ cmake ninja-build libboost-dev rapidjson-dev libcli11-dev libkainjow-mustache-dev gnuplot-nox)
 test_packages=(libgtest-dev libgmock-dev python3 binutils dpkg-dev file locales)
 windows_packages=(g++-mingw-w64-x86-64-posix googletest wine wine64)
+bench_packages=(libbenchmark-dev python3 time)
 fuzz_packages=(clang-14 libclang-rt-14-dev)
 check_packages=(clang-format clang-tidy cppcheck gcovr git)

@@ -112,15 +112,16 @@ void CsvRows::skipBlankLines()
 
 CsvCell CsvRows::readPlainCell()
 {
-    const std::size_t begin = offset_;
-    while (!atCellEnd()) {
-        if (text_[offset_] == '"') {
-            fail(line_, "a quote stands inside a cell that does not begin with one; "
-                        "put such a cell in quotes and double each quote inside");
-        }
-        ++offset_;
+    const std::string_view rest = text_.substr(offset_);
+    const auto* const end = std::ranges::find_if(
+        rest, [delimiter = delimiter_](char c) { return c == delimiter || isLineEnd(c) || c == '"'; });
+    const std::string_view raw = rest.substr(0, static_cast<std::size_t>(end - rest.begin()));
+    offset_ += raw.size();
+    if (standsAt('"')) {
+        fail(line_, "a quote stands inside a cell that does not begin with one; "
+                    "put such a cell in quotes and double each quote inside");
     }
-    return {text_.substr(begin, offset_ - begin), line_};
+    return {raw, line_};
 }
 
 CsvCell CsvRows::readQuotedCell()

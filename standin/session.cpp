@@ -1,8 +1,12 @@
 #include "standin/session.h"
 
+#include "standin/json_object.h"
+
 #include <algorithm>
 #include <stdexcept>
+#include <string_view>
 #include <utility>
+#include <vector>
 
 namespace standin {
 
@@ -15,13 +19,14 @@ Session* currentSession = nullptr;
 void copyWhole(const rapidjson::Value& from, rapidjson::Value& to, rapidjson::Document::AllocatorType& allocator)
 {
     if (from.IsObject()) {
-        to.SetObject();
+        std::vector<std::string_view> names;
         for (const auto& member : from.GetObject()) {
-            rapidjson::Value name;
-            rapidjson::Value value;
-            copyWhole(member.name, name, allocator);
-            copyWhole(member.value, value, allocator);
-            to.AddMember(name, value, allocator);
+            names.emplace_back(member.name.GetString(), member.name.GetStringLength());
+        }
+        to = jsonObject(names, allocator);
+        auto copied = to.MemberBegin();
+        for (const auto& member : from.GetObject()) {
+            copyWhole(member.value, (copied++)->value, allocator);
         }
     } else if (from.IsArray()) {
         to.SetArray();

@@ -1,9 +1,12 @@
 // The parts of a pivot table: cells, header groups, the dimension and the body.
 #include "standin/host_call.h"
+#include "standin/json_object.h"
 #include "standin/objects/output_data.h"
 
 #include <algorithm>
+#include <array>
 #include <set>
+#include <string_view>
 #include <utility>
 
 using standin::HostCall;
@@ -25,6 +28,16 @@ StatJSONGenerator::Data* documentOf(const HostCall& call, const Table* table)
     call.requireAlive(table, "the table");
     call.requireAlive(table->data->generator, "the document");
     return table->data->generator->data.get();
+}
+
+constexpr std::array<std::string_view, 3> groupMembers{"label", "showLabel", "children"};
+constexpr std::array<std::string_view, 1> leafMembers{"value"};
+
+rapidjson::Value leafOf(Cell& cell, rapidjson::Document::AllocatorType& allocator)
+{
+    rapidjson::Value leaf = standin::jsonObject(leafMembers, allocator);
+    leaf["value"] = cell.getJson();
+    return leaf;
 }
 
 /// True when the cell is the group itself or a group that holds it at any depth.
@@ -123,20 +136,14 @@ rapidjson::Value Descendants::getJson()
     rapidjson::Value children(rapidjson::kArrayType);
     children.Reserve(static_cast<rapidjson::SizeType>(data->group->children.size()), allocator);
     for (Cell* child : data->group->children) {
-        rapidjson::Value value = child->getJson();
-        if (!child->data->isGroup()) {
-            value = rapidjson::Value(rapidjson::kObjectType).AddMember("value", value, allocator);
-        }
-        children.PushBack(value, allocator);
+        children.PushBack(child->data->isGroup() ? child->getJson() : leafOf(*child, allocator), allocator);
     }
-    rapidjson::Value label;
+    rapidjson::Value json = standin::jsonObject(groupMembers, allocator);
     if (data->group->label) {
-        label.SetString(*data->group->label, allocator);
+        json["label"].SetString(*data->group->label, allocator);
     }
-    rapidjson::Value json(rapidjson::kObjectType);
-    json.AddMember("label", label, allocator);
-    json.AddMember("showLabel", data->group->showLabel, allocator);
-    json.AddMember("children", children, allocator);
+    json["showLabel"] = data->group->showLabel;
+    json["children"] = children;
     return json;
 }
 
