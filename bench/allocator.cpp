@@ -12,14 +12,13 @@ constexpr int megabyte = 1 << 20;
 
 }  // namespace
 
-void takeFreshMemory(const benchmark::State& /*state*/)
+void takeFreshMemory()
 {
     mallopt(M_MMAP_THRESHOLD, megabyte / 4);
     mallopt(M_TRIM_THRESHOLD, megabyte);
-    malloc_trim(0);
 }
 
-void keepMemory(const benchmark::State& /*state*/)
+void keepMemory()
 {
     mallopt(M_MMAP_THRESHOLD, 32 * megabyte);
     mallopt(M_TRIM_THRESHOLD, std::numeric_limits<int>::max());

@@ -1,5 +1,5 @@
 // From bytes to columns, and whole commands with their parts.
-#include "bench/allocator.h"
+#include "bench/sizes.h"
 #include "module/data/case_reader.h"
 #include "module/entry/entry_point.h"
 #include "standin/csv_reader.h"
@@ -18,11 +18,6 @@ namespace {
 using bldatman::Column;
 using Clock = std::chrono::steady_clock;
 
-std::size_t casesOf(const benchmark::State& state)
-{
-    return static_cast<std::size_t>(state.range(0));
-}
-
 bool hold(const standin::DataSet& dataSet, const std::vector<Column>& columns)
 {
     for (std::size_t i = 0; i < columns.size(); ++i) {
@@ -35,7 +30,7 @@ bool hold(const standin::DataSet& dataSet, const std::vector<Column>& columns)
 
 void ReadCsv(benchmark::State& state)
 {
-    const std::vector<Column> columns = tests::makeColumns(2, casesOf(state), 2);
+    const std::vector<Column> columns = tests::makeColumns(2, bench::casesOf(state), 2);
     const std::string csv = tests::csvOf(columns);
     if (!hold(standin::readCsv(csv, "made.csv"), columns)) {
         state.SkipWithError("the values read are not those written");
@@ -49,7 +44,7 @@ void ReadCsv(benchmark::State& state)
 
 void ReadColumns(benchmark::State& state)
 {
-    const std::vector<Column> columns = tests::makeColumns(2, casesOf(state), 2);
+    const std::vector<Column> columns = tests::makeColumns(2, bench::casesOf(state), 2);
     standin::Session session;
     session.dataSet = standin::readCsv(tests::csvOf(columns), "made.csv");
     ProcedureDataSource source;
@@ -122,27 +117,22 @@ void timeWhole(benchmark::State& state, const std::string& csv, const std::strin
 
 void WholeCommand(benchmark::State& state)
 {
-    const std::string csv = tests::csvOf(tests::makeColumns(2, casesOf(state), 2));
+    const std::string csv = tests::csvOf(tests::makeColumns(2, bench::casesOf(state), 2));
     timeWhole(state, csv, "VARIABLE=v0 WITH=v1 PRINT(MEANDIFF AGREEMENT) PLOT(RATIO AGREEMENT_LIMITS)");
     state.SetItemsProcessed(state.iterations() * state.range(0));
 }
 
 void ManyPairs(benchmark::State& state)
 {
-    const auto variables = casesOf(state);
+    const auto variables = bench::casesOf(state);
     const std::string csv = tests::csvOf(tests::makeColumns(variables, 1000, 2));
     timeWhole(state, csv, "VARIABLE=v0:v" + std::to_string(variables - 1) + " PRINT(DETAILS MEANDIFF AGREEMENT)");
     state.SetItemsProcessed(state.iterations() * state.range(0) * (state.range(0) - 1));
 }
 
-void upToAMillion(benchmark::internal::Benchmark* benchmark)
-{
-    benchmark->RangeMultiplier(10)->Range(1000, 1000000)->Unit(benchmark::kMicrosecond)->Setup(bench::takeFreshMemory);
-}
-
-BENCHMARK(ReadColumns)->Apply(upToAMillion);
-BENCHMARK(ReadCsv)->Apply(upToAMillion);
-BENCHMARK(WholeCommand)->Apply(upToAMillion);
-BENCHMARK(ManyPairs)->Arg(2)->Arg(5)->Arg(10)->Arg(20)->Unit(benchmark::kMicrosecond)->Setup(bench::takeFreshMemory);
+BENCHMARK(ReadColumns)->Apply(bench::upToAMillion);
+BENCHMARK(ReadCsv)->Apply(bench::upToAMillion);
+BENCHMARK(WholeCommand)->Apply(bench::upToAMillion);
+BENCHMARK(ManyPairs)->Arg(2)->Arg(5)->Arg(10)->Arg(20)->Unit(benchmark::kMicrosecond);
 
 }  // namespace

@@ -1,5 +1,6 @@
 // The computation of one pair, the listwise pass and the sort, each beside what moving its memory costs.
 #include "bench/allocator.h"
+#include "bench/sizes.h"
 #include "module/analysis/analysis.h"
 #include "module/analysis/listwise.h"
 #include "tests/support/made_data.h"
@@ -24,11 +25,6 @@ using Clock = std::chrono::steady_clock;
 constexpr int pairMissingPercent = 2;
 constexpr int listMissingPercent = 1;  // of each of eight columns: nearly a tenth of the rows
 
-std::size_t casesOf(const benchmark::State& state)
-{
-    return static_cast<std::size_t>(state.range(0));
-}
-
 void countCases(benchmark::State& state)
 {
     state.SetItemsProcessed(state.iterations() * state.range(0));
@@ -51,7 +47,7 @@ void measure(benchmark::State& state, Prepare prepare, Timed timed)
 /// The yardstick: two value copies and five result vectors, freshly made.
 void FreshCopies(benchmark::State& state)
 {
-    const std::vector<Column> columns = tests::makeColumns(7, casesOf(state), 0);
+    const std::vector<Column> columns = tests::makeColumns(7, bench::casesOf(state), 0);
     for (auto _ : state) {
         std::vector<Column> copies;
         copies.reserve(columns.size());
@@ -66,7 +62,7 @@ void FreshCopies(benchmark::State& state)
 
 void timePair(benchmark::State& state, bool logTransform)
 {
-    const std::vector<Column> pair = tests::makeColumns(2, casesOf(state), pairMissingPercent);
+    const std::vector<Column> pair = tests::makeColumns(2, bench::casesOf(state), pairMissingPercent);
     BldatmanCriteriaSubcommand raw;
     raw.logTransform = logTransform ? "TRUE" : "FALSE";
     const BldatmanCriteriaSetting criteria(raw);
@@ -105,7 +101,7 @@ Lists eightColumns(std::size_t cases)
 
 void ListwiseCopies(benchmark::State& state)
 {
-    const Lists lists = eightColumns(casesOf(state));
+    const Lists lists = eightColumns(bench::casesOf(state));
     for (auto _ : state) {
         Lists copies = lists;
         benchmark::DoNotOptimize(copies);
@@ -116,7 +112,7 @@ void ListwiseCopies(benchmark::State& state)
 
 void Listwise(benchmark::State& state)
 {
-    const Lists lists = eightColumns(casesOf(state));
+    const Lists lists = eightColumns(bench::casesOf(state));
     const auto removeMissing = [](Lists& whole) { bldatman::removeMissingCases(whole.first, whole.second); };
     Lists computed = lists;
     removeMissing(computed);
@@ -141,7 +137,7 @@ BldatmanPairResult recordOf(std::size_t cases)
 /// What a sort of one record costs at least: the sort of its keys with their positions, and five vectors moved.
 void SortedPositions(benchmark::State& state)
 {
-    const BldatmanPairResult record = recordOf(casesOf(state));
+    const BldatmanPairResult record = recordOf(bench::casesOf(state));
     measure(
         state, [&] { return record; },
         [](BldatmanPairResult& moved) {
@@ -163,7 +159,7 @@ void SortedPositions(benchmark::State& state)
 
 void DetailSort(benchmark::State& state)
 {
-    const BldatmanPairResult record = recordOf(casesOf(state));
+    const BldatmanPairResult record = recordOf(bench::casesOf(state));
     const auto sort = [](BldatmanPairResult& unsorted) { BldatmanAnalysis::sortDetails(unsorted, "MEAN", false); };
     BldatmanPairResult sorted = record;
     sort(sorted);
@@ -177,20 +173,18 @@ void DetailSort(benchmark::State& state)
         state, [&] { return record; }, sort);
 }
 
-void upToAMillion(benchmark::internal::Benchmark* benchmark)
-{
-    benchmark->RangeMultiplier(10)->Range(1000, 1000000)->Unit(benchmark::kMicrosecond)->Setup(bench::takeFreshMemory);
-}
-
 void upToAMillionByHand(benchmark::internal::Benchmark* benchmark)
 {
-    upToAMillion(benchmark);
+    bench::upToAMillion(benchmark);
     benchmark->UseManualTime();
 }
 
 void inKeptMemory(benchmark::internal::Benchmark* benchmark)
 {
-    benchmark->Arg(1000000)->Unit(benchmark::kMicrosecond)->Setup(bench::keepMemory);
+    benchmark->Arg(1000000)
+        ->Unit(benchmark::kMicrosecond)
+        ->Setup([](const benchmark::State&) { bench::keepMemory(); })
+        ->Teardown([](const benchmark::State&) { bench::takeFreshMemory(); });
 }
 
 void inKeptMemoryByHand(benchmark::internal::Benchmark* benchmark)
@@ -199,10 +193,10 @@ void inKeptMemoryByHand(benchmark::internal::Benchmark* benchmark)
     benchmark->UseManualTime();
 }
 
-BENCHMARK(FreshCopies)->Apply(upToAMillion);
-BENCHMARK(PairStatistics)->Apply(upToAMillion);
-BENCHMARK(PairStatisticsLog)->Apply(upToAMillion);
-BENCHMARK(ListwiseCopies)->Apply(upToAMillion);
+BENCHMARK(FreshCopies)->Apply(bench::upToAMillion);
+BENCHMARK(PairStatistics)->Apply(bench::upToAMillion);
+BENCHMARK(PairStatisticsLog)->Apply(bench::upToAMillion);
+BENCHMARK(ListwiseCopies)->Apply(bench::upToAMillion);
 BENCHMARK(Listwise)->Apply(upToAMillionByHand);
 BENCHMARK(SortedPositions)->Apply(upToAMillionByHand);
 BENCHMARK(DetailSort)->Apply(upToAMillionByHand);

@@ -26,7 +26,7 @@ struct CaseBlock {
 template <class Step>
 void forEachBlock(std::size_t caseCount, Step step)
 {
-    constexpr std::size_t casesPerBlock = 4096;
+    constexpr std::size_t casesPerBlock = 8192;
     for (std::size_t begin = 0; begin < caseCount; begin += casesPerBlock) {
         step(CaseBlock{begin, std::min(begin + casesPerBlock, caseCount)});
     }
