@@ -16,6 +16,7 @@ void takeFreshMemory()
 {
     mallopt(M_MMAP_THRESHOLD, megabyte / 4);
     mallopt(M_TRIM_THRESHOLD, megabyte);
+    malloc_trim(0);
 }
 
 void keepMemory()
