@@ -1,4 +1,4 @@
-// From bytes to columns, and whole commands with their parts.
+#include "bench/benchmarks.h"
 #include "bench/sizes.h"
 #include "module/data/case_reader.h"
 #include "module/entry/entry_point.h"
@@ -6,9 +6,11 @@
 #include "standin/render/render_json.h"
 #include "standin/session.h"
 #include "tests/support/made_data.h"
+#include "tests/support/plain_reference.h"
 
 #include <benchmark/benchmark.h>
 
+#include <algorithm>
 #include <chrono>
 #include <string>
 #include <vector>
@@ -60,7 +62,7 @@ void ReadColumns(benchmark::State& state)
     for (auto _ : state) {
         benchmark::DoNotOptimize(read());
     }
-    state.SetItemsProcessed(state.iterations() * state.range(0));
+    bench::countCases(state);
 }
 
 /// A stopwatch that adds its laps up.
@@ -83,31 +85,78 @@ struct Parts {
     double writing = 0;
 };
 
-/// CSV in, JSON out; false when no document came.
-bool runWhole(const std::string& csv, const std::string& command, Parts& parts)
+/// A command over a CSV text, taken part by part.
+class Whole {
+public:
+    Whole(const std::string& csv, const std::string& command, Parts& parts)
+    {
+        Laps lap;
+        session_.dataSet = standin::readCsv(csv, "made.csv");
+        session_.command = standin::singleCommand(command);
+        lap(parts.reading);
+        session_.run(BLDATMAN);
+        lap(parts.module);
+        benchmark::DoNotOptimize(standin::renderJson(session_.documents));
+        lap(parts.writing);
+    }
+
+    /// The document's plots; none when no document came.
+    std::vector<const rapidjson::Value*> plots() const
+    {
+        std::vector<const rapidjson::Value*> found;
+        for (const rapidjson::Document& document : session_.documents) {
+            for (const rapidjson::Value& object : document["objects"].GetArray()) {
+                if (object["type"] == "graph") {
+                    found.push_back(&object["data"]);
+                }
+            }
+        }
+        return found;
+    }
+
+private:
+    standin::Session session_;
+};
+
+bool holds(const rapidjson::Value& array, const std::vector<double>& values)
 {
-    Laps lap;
-    standin::Session session;
-    session.dataSet = standin::readCsv(csv, "made.csv");
-    session.command = standin::singleCommand(command);
-    lap(parts.reading);
-    const bool delivered = session.run(BLDATMAN);
-    lap(parts.module);
-    benchmark::DoNotOptimize(standin::renderJson(session.documents));
-    lap(parts.writing);
-    return delivered;
+    return std::ranges::equal(array.GetArray(), values, {},
+                              [](const rapidjson::Value& value) { return value.GetDouble(); });
 }
 
-void timeWhole(benchmark::State& state, const std::string& csv, const std::string& command)
+/// True when every plot of differences shows what a plain computation of its pair gives. There are `plotsPerPair` plots
+/// for each two of the columns, that of the differences first.
+bool isPlainlyRight(const Whole& whole, const std::vector<Column>& columns, std::size_t plotsPerPair)
 {
+    const auto plots = whole.plots();
+    std::size_t next = 0;
+    for (std::size_t i = 0; i < columns.size(); ++i) {
+        for (std::size_t j = 0; j < columns.size() && next < plots.size(); ++j) {
+            if (i == j) {
+                continue;
+            }
+            const auto record = tests::plainRecord(columns[i], columns[j], bldatman::BldatmanCriteriaSetting());
+            if (!holds((*plots[next])["xdata"], record.means) || !holds((*plots[next])["ydata"], record.differences)) {
+                return false;
+            }
+            next += plotsPerPair;
+        }
+    }
+    return next > 0 && next == plots.size();
+}
+
+void timeWhole(benchmark::State& state, const std::vector<Column>& columns, const std::string& command,
+               std::size_t plotsPerPair)
+{
+    const std::string csv = tests::csvOf(columns);
     Parts parts;
-    if (!runWhole(csv, command, parts)) {
-        state.SkipWithError("no document was delivered");
+    if (!isPlainlyRight(Whole(csv, command, parts), columns, plotsPerPair)) {
+        state.SkipWithError("the plots do not show what a plain computation gives");
         return;
     }
     parts = {};
     for (auto _ : state) {
-        runWhole(csv, command, parts);
+        const Whole whole(csv, command, parts);
     }
     const auto perRun = benchmark::Counter::kAvgIterations;
     state.counters["reading_s"] = benchmark::Counter(parts.reading, perRun);
@@ -117,22 +166,28 @@ void timeWhole(benchmark::State& state, const std::string& csv, const std::strin
 
 void WholeCommand(benchmark::State& state)
 {
-    const std::string csv = tests::csvOf(tests::makeColumns(2, bench::casesOf(state), 2));
-    timeWhole(state, csv, "VARIABLE=v0 WITH=v1 PRINT(MEANDIFF AGREEMENT) PLOT(RATIO AGREEMENT_LIMITS)");
-    state.SetItemsProcessed(state.iterations() * state.range(0));
+    timeWhole(state, tests::makeColumns(2, bench::casesOf(state), 2),
+              "VARIABLE=v0 WITH=v1 PRINT(MEANDIFF AGREEMENT) PLOT(RATIO AGREEMENT_LIMITS)", 2);
+    bench::countCases(state);
 }
 
 void ManyPairs(benchmark::State& state)
 {
-    const auto variables = bench::casesOf(state);
-    const std::string csv = tests::csvOf(tests::makeColumns(variables, 1000, 2));
-    timeWhole(state, csv, "VARIABLE=v0:v" + std::to_string(variables - 1) + " PRINT(DETAILS MEANDIFF AGREEMENT)");
+    const auto variables = static_cast<std::size_t>(state.range(0));
+    timeWhole(state, tests::makeColumns(variables, 1000, 2),
+              "VARIABLE=v0:v" + std::to_string(variables - 1) + " PRINT(DETAILS MEANDIFF AGREEMENT)", 1);
     state.SetItemsProcessed(state.iterations() * state.range(0) * (state.range(0) - 1));
 }
 
-BENCHMARK(ReadColumns)->Apply(bench::upToAMillion);
-BENCHMARK(ReadCsv)->Apply(bench::upToAMillion);
-BENCHMARK(WholeCommand)->Apply(bench::upToAMillion);
-BENCHMARK(ManyPairs)->Arg(2)->Arg(5)->Arg(10)->Arg(20)->Unit(benchmark::kMicrosecond);
-
 }  // namespace
+
+void bench::registerCommands()
+{
+    benchmark::RegisterBenchmark("ReadColumns", ReadColumns)->Apply(bench::upToAMillion);
+    benchmark::RegisterBenchmark("ReadCsv", ReadCsv)->Apply(bench::upToAMillion);
+    benchmark::RegisterBenchmark("WholeCommand", WholeCommand)->Apply(bench::upToAMillion);
+    auto* manyPairs = benchmark::RegisterBenchmark("ManyPairs", ManyPairs)->Unit(benchmark::kMicrosecond);
+    for (const int variables : {2, 5, 10, 20}) {
+        manyPairs->Arg(variables);
+    }
+}

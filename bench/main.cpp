@@ -1,4 +1,5 @@
 #include "bench/allocator.h"
+#include "bench/benchmarks.h"
 
 #include <benchmark/benchmark.h>
 
@@ -9,6 +10,9 @@ int main(int argc, char** argv)
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
         return 1;
     }
+    bench::registerPairs();  // first: commands leave a heap of small blocks behind them, with room for large ones
+    bench::registerCommands();
+    bench::registerPairsInKeptMemory();
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();
     return 0;

@@ -1,4 +1,4 @@
-// The sizes that every benchmark runs at.
+// What the benchmarks have in common.
 #pragma once
 
 #include <benchmark/benchmark.h>
@@ -15,6 +15,11 @@ inline void upToAMillion(benchmark::internal::Benchmark* benchmark)
 inline std::size_t casesOf(const benchmark::State& state)
 {
     return static_cast<std::size_t>(state.range(0));
+}
+
+inline void countCases(benchmark::State& state)
+{
+    state.SetItemsProcessed(state.iterations() * state.range(0));
 }
 
 }  // namespace bench

@@ -92,18 +92,25 @@ void addCell(Variable& variable, const CsvCell& cell, bool decimalComma)
 /// rare text with lone CRs the room is made as it goes.)
 void reserveCases(DataSet& dataSet, std::string_view text)
 {
-    const std::size_t cases =
-        std::min(static_cast<std::size_t>(std::ranges::count(text, '\n')) + 1, text.size() / dataSet.variables.size());
+    const std::size_t cases = std::min(static_cast<std::size_t>(std::ranges::count(text, '\n')) + 1,
+                                       text.size() / (2 * dataSet.variables.size()));
     for (Variable& variable : dataSet.variables) {
         variable.values.reserve(cases);
     }
 }
 
-/// So many cases are read between two words about it.
+/// Progress is told of once in so many cases.
 constexpr std::size_t casesPerStep = 1 << 14;
 
+void tellOf(const CsvRows& rows, std::size_t cases, const Progress& progress)
+{
+    if (progress && cases % casesPerStep == 0) {
+        progress(rows.bytesRead(), rows.byteCount());
+    }
+}
+
 /// Reads all cases. A variable stops at its first text: its numbers up to there are texts as well.
-void readNumbers(DataSet& dataSet, CsvRows rows, const ReadingProgress& progress)
+void readNumbers(DataSet& dataSet, CsvRows rows, const Progress& progress)
 {
     const bool decimalComma = rows.delimiter() != ',';
     std::vector<CsvCell> cells;
@@ -113,9 +120,7 @@ void readNumbers(DataSet& dataSet, CsvRows rows, const ReadingProgress& progress
                 addCell(dataSet.variables[i], cells[i], decimalComma);
             }
         }
-        if (progress && dataSet.caseCount % casesPerStep == 0) {
-            progress(rows.bytesRead(), rows.byteCount());
-        }
+        tellOf(rows, dataSet.caseCount, progress);
     }
 }
 
@@ -153,22 +158,24 @@ void addText(Variable& variable, TextVariable& text, const CsvCell& cell)
 }
 
 /// Goes over the cases again for the variables that turned out to be of texts.
-void readTexts(DataSet& dataSet, CsvRows rows)
+void readTexts(DataSet& dataSet, CsvRows rows, const Progress& progress)
 {
     std::vector<TextVariable> texts = prepareTexts(dataSet);
     if (texts.empty()) {
         return;
     }
-    for (std::vector<CsvCell> cells; rows.next(cells);) {
+    std::vector<CsvCell> cells;
+    for (std::size_t cases = 0; rows.next(cells); ++cases) {
         for (TextVariable& text : texts) {
             addText(dataSet.variables[text.position], text, cells[text.position]);
         }
+        tellOf(rows, cases, progress);
     }
 }
 
 }  // namespace
 
-DataSet readCsv(std::string_view text, const std::string& fileName, const ReadingProgress& progress)
+DataSet readCsv(std::string_view text, const std::string& fileName, const Progress& progress)
 {
     CsvRows rows(requireUtf8(text, fileName), fileName);
     DataSet dataSet;
@@ -176,7 +183,7 @@ DataSet readCsv(std::string_view text, const std::string& fileName, const Readin
     reserveCases(dataSet, text);
     // Each takes a copy of the walk and so begins at the first case.
     readNumbers(dataSet, rows, progress);
-    readTexts(dataSet, rows);
+    readTexts(dataSet, rows, progress);
     return dataSet;
 }
 

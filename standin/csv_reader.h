@@ -2,16 +2,12 @@
 #pragma once
 
 #include "standin/data_set.h"
+#include "standin/progress.h"
 
-#include <cstddef>
-#include <functional>
 #include <string>
 #include <string_view>
 
 namespace standin {
-
-/// Told now and then how many bytes of a text, and of how many, have been read.
-using ReadingProgress = std::function<void(std::size_t done, std::size_t total)>;
 
 /// Reads CSV as RFC 4180 has it: UTF-8 (a byte-order mark is skipped), a header row, lines ended by LF, CR LF or CR,
 /// blank lines skipped; the delimiter is recognised in the header row among ',' ';' and tab, and with ';' or tab a
@@ -21,8 +17,8 @@ using ReadingProgress = std::function<void(std::size_t done, std::size_t total)>
 /// numbers, or that has none, is scale; any other is nominal with its texts as value labels.
 ///
 /// @param fileName  for the messages
-/// @param progress  may be empty
+/// @param progress  is told of bytes, and again from the first on for the second walk that columns of texts take
 /// @throws InputError  for a malformed file, naming file, line and reason
-DataSet readCsv(std::string_view text, const std::string& fileName, const ReadingProgress& progress = {});
+DataSet readCsv(std::string_view text, const std::string& fileName, const Progress& progress = {});
 
 }  // namespace standin

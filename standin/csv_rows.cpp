@@ -79,9 +79,9 @@ void CsvRows::fail(std::size_t line, const std::string& reason) const
     throw InputError(*fileName_, line, reason);
 }
 
-bool CsvRows::atCellEnd() const
+bool CsvRows::endsCell(char c) const
 {
-    return offset_ == text_.size() || text_[offset_] == delimiter_ || isLineEnd(text_[offset_]);
+    return c == delimiter_ || isLineEnd(c);
 }
 
 bool CsvRows::skip(char c)
@@ -113,8 +113,7 @@ void CsvRows::skipBlankLines()
 CsvCell CsvRows::readPlainCell()
 {
     const std::string_view rest = text_.substr(offset_);
-    const auto* const end = std::ranges::find_if(
-        rest, [delimiter = delimiter_](char c) { return c == delimiter || isLineEnd(c) || c == '"'; });
+    const auto end = std::ranges::find_if(rest, [this](char c) { return endsCell(c) || c == '"'; });
     const std::string_view raw = rest.substr(0, static_cast<std::size_t>(end - rest.begin()));
     offset_ += raw.size();
     if (standsAt('"')) {
@@ -137,7 +136,7 @@ CsvCell CsvRows::readQuotedCell()
     } while (skip('"'));
     const std::string_view raw = text_.substr(begin, offset_ - 1 - begin);
     line_ += countLineEnds(raw);
-    if (!atCellEnd()) {
+    if (offset_ < text_.size() && !endsCell(text_[offset_])) {
         fail(line_, "something follows the closing quote of a cell; double each quote that belongs to the cell");
     }
     return {raw, firstLine};

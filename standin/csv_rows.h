@@ -47,7 +47,7 @@ public:
 
 private:
     bool standsAt(char c) const { return offset_ < text_.size() && text_[offset_] == c; }
-    bool atCellEnd() const;
+    bool endsCell(char c) const;
     bool skip(char c);
     void skipLineEnd();
     void skipBlankLines();

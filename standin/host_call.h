@@ -66,7 +66,7 @@ public:
     /// @throws ContractBreach  always, naming the operation
     [[noreturn]] void fail(std::string_view rule) const;
 
-    /// The same unless `kept`.
+    /// Fails unless `kept`. For a rule in constant words; where words must be put together, test and `fail`.
     void require(bool kept, std::string_view rule) const
     {
         if (!kept) {

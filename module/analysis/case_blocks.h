@@ -26,7 +26,7 @@ struct CaseBlock {
 template <class Step>
 void forEachBlock(std::size_t caseCount, Step step)
 {
-    constexpr std::size_t casesPerBlock = 8192;
+    constexpr std::size_t casesPerBlock = 8192;  // 64 KB a column: a pair's five stay in a cache of the second level
     for (std::size_t begin = 0; begin < caseCount; begin += casesPerBlock) {
         step(CaseBlock{begin, std::min(begin + casesPerBlock, caseCount)});
     }

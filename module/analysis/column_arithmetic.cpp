@@ -1,7 +1,5 @@
 #include "module/analysis/column_arithmetic.h"
 
-#include "host/missing_value.h"
-
 #include <cmath>
 #include <cstddef>
 
@@ -56,7 +54,7 @@ void roundAll(std::span<double> values, double factor)
 void markMissing(std::span<const double> values, std::span<double> marks)
 {
     for (std::size_t i = 0; i < marks.size(); ++i) {
-        marks[i] = values[i] == systemMissingValue || std::isnan(values[i]) ? 1.0 : marks[i];
+        marks[i] = isMissing(values[i]) ? 1.0 : marks[i];
     }
 }
 

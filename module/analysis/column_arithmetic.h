@@ -1,7 +1,11 @@
 // Arithmetic over the cases of columns, one operation a loop and no branch in it, so that compilers turn it into the
-// wide instructions of the processor. Every case gets the very bits that the expression in the comment gives.
+// wide instructions of the processor. Every case gets the very bits that the expression in the comment gives, but for
+// which NaN it is.
 #pragma once
 
+#include "host/missing_value.h"
+
+#include <cmath>
 #include <span>
 
 namespace bldatman {
@@ -19,7 +23,14 @@ void fillRatios(std::span<const double> differences, std::span<const double> mea
 /// values[i] = round(values[i] * factor) / factor, to the nearest integer, halves away from zero.
 void roundAll(std::span<double> values, double factor);
 
-/// marks[i] = 1 where the value is the system-missing value or no number; others stay as they are. All of one length.
+/// True for the system-missing value and for NaN.
+inline bool isMissing(double value)
+{
+    return value == systemMissingValue || std::isnan(value);
+}
+
+/// marks[i] = 1 where the value is missing; others stay as they are. All of one length. (Marks are as wide as values,
+/// so that one loop compares and marks two at once.)
 void markMissing(std::span<const double> values, std::span<double> marks);
 
 }  // namespace bldatman

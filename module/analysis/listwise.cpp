@@ -1,11 +1,9 @@
 #include "module/analysis/listwise.h"
 
-#include "host/missing_value.h"
 #include "module/analysis/case_blocks.h"
 #include "module/analysis/column_arithmetic.h"
 
 #include <algorithm>
-#include <cmath>
 #include <cstddef>
 #include <stdexcept>
 
@@ -14,11 +12,6 @@ namespace bldatman {
 namespace {
 
 using Columns = std::vector<Column>;
-
-bool isMissing(double value)
-{
-    return value == systemMissingValue || std::isnan(value);
-}
 
 bool haveOneLength(const Columns& first, const Columns& second)
 {
@@ -40,7 +33,8 @@ std::vector<Column*> columnsOfPairs(Columns& first, Columns& second)
     return columns;
 }
 
-/// Moves the unmarked values of the block up to the place `to` and returns the place behind them.
+/// Moves the unmarked values of the block up to the place `to` and returns the place behind them. Every value is moved,
+/// and the place goes on only past those that stay: no processor could foresee a branch here.
 std::size_t moveUp(Column& column, const CaseBlock& block, const std::vector<double>& marks, std::size_t to)
 {
     for (std::size_t i = 0; i < block.size(); ++i) {
@@ -64,7 +58,7 @@ void removeInOnePass(Columns& first, Columns& second)
         }
         std::size_t end = kept;
         for (Column* column : columns) {
-            end = moveUp(*column, block, marks, kept);
+            end = moveUp(*column, block, marks, kept);  // the same for every column
         }
         kept = end;
     });

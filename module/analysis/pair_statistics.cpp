@@ -45,19 +45,35 @@ void takeLogarithms(std::span<double> values)
     }
 }
 
-/// Turns the pair's copies of its values into those of the record, and fills in the means and differences, which wait
-/// unrounded for the statistics. Promises 3 and 8.
-void setValues(BldatmanPairResult& record, Column a, Column b, bool logTransform)
+/// Makes the pair's copies of its values those of the record.
+void takeValues(BldatmanPairResult& record, Column a, Column b)
 {
     const std::size_t count = std::min(a.size(), b.size());
-    a.resize(count);
-    b.resize(count);
+    for (Column* values : {&a, &b}) {
+        values->resize(count);
+        if (values->capacity() / 2 > count) {
+            values->shrink_to_fit();
+        }
+    }
     record.valuesA = std::move(a);
     record.valuesB = std::move(b);
+}
+
+std::size_t caseCount(const BldatmanPairResult& record)
+{
+    return record.differences.size();
+}
+
+/// Promises 3 and 8, in one walk over the cases: when it ends the values are rounded, the means and differences not
+/// yet.
+void setMeansAndDifferences(BldatmanPairResult& record, bool logTransform)
+{
+    const std::size_t count = record.valuesA.size();
     record.means.reserve(count);
     record.differences.reserve(count);
     const double factor = decimalFactor(storedDecimals);
     forEachBlock(count, [&](const CaseBlock& block) {
+        // Block by block, so that the zeros of a resize are still in the cache when they are written over.
         record.means.resize(block.end);
         record.differences.resize(block.end);
         const std::span<double> valuesA = block.of(record.valuesA);
@@ -71,11 +87,6 @@ void setValues(BldatmanPairResult& record, Column a, Column b, bool logTransform
         roundAll(valuesA, factor);
         roundAll(valuesB, factor);
     });
-}
-
-std::size_t caseCount(const BldatmanPairResult& record)
-{
-    return record.differences.size();
 }
 
 int degreesOfFreedom(const BldatmanPairResult& record)
@@ -122,8 +133,8 @@ void setRelativeLimits(BldatmanPairResult& record)
     record.upperLimitCiUpperRelative = relative(record.upperLimitCiUpper);
 }
 
-/// Fills in the ratios, and rounds what has waited for it. Promise 8.
-void setRatios(BldatmanPairResult& record, bool percentage)
+/// Promise 8, the rest of it: the ratios, and the rounding of the means and differences.
+void setRatiosAndRound(BldatmanPairResult& record, bool percentage)
 {
     record.ratios.reserve(caseCount(record));
     const double factor = decimalFactor(storedDecimals);
@@ -150,11 +161,12 @@ BldatmanPairResult BldatmanAnalysis::performBlandAltmanAnalysis(const std::strin
     if (criteria.scope() == "ANALYSIS") {
         removeMissingPairs(a, b, std::min(a.size(), b.size()));
     }
-    setValues(record, std::move(a), std::move(b), criteria.logTransform());
+    takeValues(record, std::move(a), std::move(b));
+    setMeansAndDifferences(record, criteria.logTransform());  // exact up to the last step
     setBias(record, criteria.ciLevelMeanDiff());
     setLimits(record, criteria.agreementLimit(), criteria.ciLevelAgreement());
     setRelativeLimits(record);
-    setRatios(record, criteria.percentage());
+    setRatiosAndRound(record, criteria.percentage());
     return record;
 }
 
@@ -205,6 +217,8 @@ void BldatmanAnalysis::removeMissingPairs(Column& a, Column& b, std::size_t limi
 {
     std::size_t kept = 0;
     for (std::size_t i = 0; i < limit; ++i) {
+        // Every case is moved, and the place goes on only past those that stay: no processor could foresee a branch
+        // here.
         a[kept] = a[i];
         b[kept] = b[i];
         const bool isComplete = a[i] != systemMissingValue && b[i] != systemMissingValue;

@@ -1,10 +1,10 @@
 // The pictures of the graphs of a run's documents.
 #pragma once
 
+#include "standin/progress.h"
+
 #include <rapidjson/document.h>
 
-#include <cstddef>
-#include <functional>
 #include <list>
 #include <string>
 #include <unordered_map>
@@ -19,10 +19,8 @@ struct Picture {
 
 class PictureBook {
 public:
-    /// Told how many pictures of how many are drawn; the last time all of them, whatever became of them.
-    using Progress = std::function<void(std::size_t drawn, std::size_t total)>;
-
     /// Draws nothing yet. The documents outlive the book and do not change.
+    /// @param progress  is told of pictures, the last time that all are drawn, whatever became of them
     PictureBook(const std::list<rapidjson::Document>& documents, Progress progress);
 
     /// The picture of a graph of these documents. All are drawn when the first is asked for, by one process of gnuplot.

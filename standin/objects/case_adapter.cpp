@@ -72,8 +72,9 @@ ACAVarValidSpecs::~ACAVarValidSpecs()
 int ACAVarValidSpecs::AddVariable(int column, bool flag, bool first, bool second, bool third)
 {
     HostCall call(this, "ACAVarValidSpecs::AddVariable", column, flag, first, second, third);
-    call.require(column >= 0 && static_cast<std::size_t>(column) < standin::Session::current().dataSet.variables.size(),
-                 "there is no variable " + std::to_string(column));
+    if (column < 0 || static_cast<std::size_t>(column) >= standin::Session::current().dataSet.variables.size()) {
+        call.fail("there is no variable " + std::to_string(column));
+    }
     data->columns.push_back(static_cast<std::size_t>(column));
     return 0;
 }

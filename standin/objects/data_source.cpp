@@ -114,6 +114,8 @@ unsigned QUVO_DataSource::ColumnCount() const
 QUVO_Variable& QUVO_DataSource::GetVariable(int index)
 {
     HostCall call(this, "QUVO_DataSource::GetVariable", index);
-    call.require(static_cast<unsigned>(index) < columnCount(), "there is no variable " + std::to_string(index));
+    if (static_cast<unsigned>(index) >= columnCount()) {
+        call.fail("there is no variable " + std::to_string(index));
+    }
     return variable(index);
 }

@@ -70,7 +70,9 @@ PathFinder* PathFactory::getPathInstance(int kind)
 {
     constexpr int languageFolderKind = 3;
     HostCall call(nullptr, "PathFactory::getPathInstance", kind);
-    call.require(kind == languageFolderKind, "there is no folder of kind " + std::to_string(kind));
+    if (kind != languageFolderKind) {
+        call.fail("there is no folder of kind " + std::to_string(kind));
+    }
     static LanguageFolder folder;
     return &folder;
 }

@@ -20,7 +20,8 @@ std::string renderJson(const std::list<rapidjson::Document>& documents)
     }
     writer.EndArray();
     writer.EndObject();
-    return std::string(buffer.GetString(), buffer.GetSize()) + "\n";
+    buffer.Put('\n');
+    return {buffer.GetString(), buffer.GetSize()};
 }
 
 }  // namespace standin

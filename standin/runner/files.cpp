@@ -48,13 +48,11 @@ std::uintmax_t sizeIfKnown(const fs::path& file)
     return unknown ? 0 : size;
 }
 
-using Progress = std::function<void(std::size_t done, std::size_t total)>;
-
 /// All that the stream still holds.
 /// @param size  how much that should be
 std::string readAll(std::istream& stream, std::size_t size, const Progress& progress)
 {
-    constexpr std::size_t chunkSize = 1 << 20;
+    constexpr std::size_t chunkSize = 1 << 16;
     std::string bytes;
     bytes.reserve(size);
     std::vector<char> chunk(chunkSize);

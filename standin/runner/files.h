@@ -1,10 +1,10 @@
 // Whole files in, whole files out.
 #pragma once
 
-#include <cstddef>
+#include "standin/progress.h"
+
 #include <filesystem>
 #include <fstream>
-#include <functional>
 #include <stdexcept>
 #include <string>
 #include <system_error>
@@ -12,10 +12,9 @@
 namespace standin {
 
 /// The bytes of a file.
-/// @param progress  told now and then how many bytes have been read, and of how many where that is known; may be empty
+/// @param progress  is told of bytes
 /// @throws InputError  when it cannot be read, or was changed meanwhile
-std::string readWholeFile(const std::filesystem::path& file,
-                          const std::function<void(std::size_t done, std::size_t total)>& progress = {});
+std::string readWholeFile(const std::filesystem::path& file, const Progress& progress = {});
 
 /// A file could not be written; `what()` says which and why.
 class OutputError : public std::runtime_error {

@@ -1,4 +1,5 @@
 #include "standin/runner/arguments.h"
+#include "standin/runner/memory.h"
 #include "standin/runner/messages.h"
 #include "standin/runner/options.h"
 #include "standin/runner/run.h"
@@ -8,6 +9,7 @@
 
 int main(int argc, char** argv)
 {
+    standin::returnLargeBlocks();
     standin::prepareStandardStreams();
     try {
         const standin::CommandLine commandLine = standin::readCommandLine(standin::argumentsOf(argc, argv));

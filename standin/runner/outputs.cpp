@@ -41,8 +41,11 @@ std::vector<std::string> writeOutputs(const Session& session, const Options& opt
         return attempt("the standard output", [&] { return writeStandardOutput(session); });
     }
     ProgressLine line;
-    PictureBook pictures(session.documents,
-                         [&](std::size_t drawn, std::size_t total) { line.show("Drawing plots", drawn, total); });
+    const auto show = [&line](std::size_t drawn, std::size_t total) {
+        drawn < total ? line.show("Drawing plots", std::to_string(drawn) + " of " + std::to_string(total))
+                      : line.clear();
+    };
+    PictureBook pictures(session.documents, show);
     const Report report{session.documents, options.language, pictures};
     Failures failures;
     for (const OutputRequest& output : options.outputs) {

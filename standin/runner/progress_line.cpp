@@ -1,9 +1,9 @@
 #include "standin/runner/progress_line.h"
 
 #include "standin/runner/terminal.h"
+#include "standin/unicode.h"
 
 #include <iostream>
-#include <utility>
 
 namespace standin {
 
@@ -11,6 +11,9 @@ namespace {
 
 /// Who waits for less does not ask how far it is.
 constexpr std::chrono::seconds patience{1};
+
+/// Nobody reads faster.
+constexpr std::chrono::milliseconds pause{100};
 
 }  // namespace
 
@@ -25,28 +28,26 @@ ProgressLine::~ProgressLine()
     clear();
 }
 
-void ProgressLine::show(const std::string& what, std::size_t done, std::size_t total, const std::string& unit)
+void ProgressLine::show(const std::string& what, const std::string& howFar)
 {
-    if (done == total) {
-        clear();
+    const auto now = Clock::now();
+    if (!onTerminal_ || now - begin_ < patience || (what == what_ && now - lastTime_ < pause)) {
         return;
     }
-    if (!onTerminal_ || Clock::now() - begin_ < patience) {
-        return;
-    }
-    std::string line = what + ": " + std::to_string(done) + (total == 0 ? "" : " of " + std::to_string(total)) + unit;
-    if (line != shown_) {
-        clear();
-        std::cerr << line << std::flush;
-        shown_ = std::move(line);
-    }
+    lastTime_ = now;
+    what_ = what;
+    const std::string whole = what + ": " + howFar;
+    const std::string& line = textWidth(whole) < terminalWidth(StandardStream::Error) ? whole : howFar;
+    clear();
+    std::cerr << line << std::flush;
+    shownWidth_ = textWidth(line);
 }
 
 void ProgressLine::clear()
 {
-    if (!shown_.empty()) {
-        std::cerr << '\r' << std::string(shown_.size(), ' ') << '\r' << std::flush;
-        shown_.clear();
+    if (shownWidth_ > 0) {
+        std::cerr << '\r' << std::string(shownWidth_, ' ') << '\r' << std::flush;
+        shownWidth_ = 0;
     }
 }
 

@@ -24,13 +24,18 @@ namespace standin {
 
 namespace {
 
+std::string megabytes(std::size_t bytes)
+{
+    const std::size_t tenths = bytes / 100000;
+    return std::to_string(tenths / 10) + "." + std::to_string(tenths % 10);
+}
+
 DataSet readCsvFile(const std::filesystem::path& file)
 {
-    constexpr std::size_t megabyte = 1000000;
     const std::string name = shown(file);
     ProgressLine line;
     const auto show = [&line, &name](const char* what, std::size_t done, std::size_t total) {
-        line.show(what + name, done / megabyte, total / megabyte, " MB");
+        line.show(what + name, megabytes(done) + (total == 0 ? "" : " of " + megabytes(total)) + " MB");
     };
     const std::string bytes = readWholeFile(file, std::bind_front(show, "Loading "));
     return readCsv(bytes, name, std::bind_front(show, "Reading "));

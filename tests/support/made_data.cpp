@@ -11,10 +11,10 @@ namespace tests {
 
 namespace {
 
-/// Numbers from 0 up to 1, evenly spread and the same on every system.
-class EvenNumbers {
+/// Numbers from 0 up to 1, uniformly distributed and the same on every system.
+class UniformNumbers {
 public:
-    explicit EvenNumbers(std::uint64_t seed)
+    explicit UniformNumbers(std::uint64_t seed)
         : state_(seed)
     {
     }
@@ -31,10 +31,10 @@ private:
 
 }  // namespace
 
-std::vector<bldatman::Column> makeColumns(std::size_t columns, std::size_t cases, int percentMissing)
+std::vector<bldatman::Column> makeColumns(std::size_t columns, std::size_t cases, double percentMissing)
 {
     std::vector<bldatman::Column> made(columns, bldatman::Column(cases));
-    EvenNumbers numbers(columns * 1000003U + cases);
+    UniformNumbers numbers(columns * 1000003U + cases);
     for (bldatman::Column& column : made) {
         for (double& value : column) {
             const bool isMissing = numbers.next() * 100.0 < percentMissing;

@@ -9,8 +9,8 @@
 
 namespace tests {
 
-/// Readings of about 450 with a spread of 100; so many cases of a hundred hold the system-missing value.
-std::vector<bldatman::Column> makeColumns(std::size_t columns, std::size_t cases, int percentMissing);
+/// Readings of 450 with a standard deviation of 50, to one decimal; so many percent of each column are missing.
+std::vector<bldatman::Column> makeColumns(std::size_t columns, std::size_t cases, double percentMissing);
 
 /// Columns as a CSV file with the names v0, v1, ...
 std::string csvOf(const std::vector<bldatman::Column>& columns);

@@ -1,21 +1,25 @@
 #include "tests/support/plain_reference.h"
 
 #include "host/missing_value.h"
-#include "module/analysis/analysis.h"
 
 #include <algorithm>
 #include <bit>
 #include <cmath>
 #include <cstdint>
+#include <sstream>
 
 namespace tests {
 
 namespace {
 
-using bldatman::BldatmanAnalysis;
 using bldatman::BldatmanCriteriaSetting;
 using bldatman::BldatmanPairResult;
 using bldatman::Column;
+
+double rounded(double value)
+{
+    return roundedHalfAwayFromZero(value * 1000.0) / 1000.0;
+}
 
 double logarithmOf(double value, bool wanted)
 {
@@ -30,36 +34,29 @@ double ratioOf(double difference, double mean, bool percentage)
     return percentage ? difference / mean * 100.0 : difference / mean;
 }
 
-/// To the bit, but for which NaN it is.
-bool areTheSame(const std::vector<double>& one, const std::vector<double>& other)
+bool isSame(double x, double y)
 {
-    return std::ranges::equal(one, other, [](double x, double y) {
-        return std::bit_cast<std::uint64_t>(x) == std::bit_cast<std::uint64_t>(y) || (std::isnan(x) && std::isnan(y));
-    });
+    return std::bit_cast<std::uint64_t>(x) == std::bit_cast<std::uint64_t>(y) || (std::isnan(x) && std::isnan(y));
+}
+
+std::string firstDifference(const std::string& name, const std::vector<double>& one, const std::vector<double>& other)
+{
+    const auto [x, y] = std::ranges::mismatch(one, other, isSame);
+    if (x == one.end() && y == other.end()) {
+        return "";
+    }
+    std::ostringstream text;
+    text.precision(17);
+    text << name << '[' << x - one.begin() << "]: ";
+    if (x == one.end() || y == other.end()) {
+        text << one.size() << " and " << other.size() << " values";
+    } else {
+        text << *x << " and " << *y;
+    }
+    return text.str();
 }
 
 }  // namespace
-
-std::vector<double> scalarsOf(const BldatmanPairResult& r)
-{
-    return {r.meanDifference,
-            r.sdDifference,
-            r.meanDifferenceCiLower,
-            r.meanDifferenceCiUpper,
-            r.lowerLimit,
-            r.upperLimit,
-            r.lowerLimitCiLower,
-            r.lowerLimitCiUpper,
-            r.upperLimitCiLower,
-            r.upperLimitCiUpper,
-            r.meanOfMeans,
-            r.lowerLimitRelative,
-            r.upperLimitRelative,
-            r.lowerLimitCiLowerRelative,
-            r.lowerLimitCiUpperRelative,
-            r.upperLimitCiLowerRelative,
-            r.upperLimitCiUpperRelative};
-}
 
 double roundedHalfAwayFromZero(double value)
 {
@@ -68,10 +65,9 @@ double roundedHalfAwayFromZero(double value)
     return std::copysign(size - whole < 0.5 ? whole : whole + 1.0, value);
 }
 
-BldatmanPairResult plainStatistics(const Column& a, const Column& b, const BldatmanCriteriaSetting& criteria)
+BldatmanPairResult plainRecord(const Column& a, const Column& b, const BldatmanCriteriaSetting& criteria)
 {
-    const auto rounded = [](double value) { return roundedHalfAwayFromZero(value * 1000.0) / 1000.0; };
-    BldatmanPairResult r{};
+    BldatmanPairResult record{};
     std::vector<double> d;
     double sumD = 0.0;
     double sumM = 0.0;
@@ -85,58 +81,48 @@ BldatmanPairResult plainStatistics(const Column& a, const Column& b, const Bldat
         d.push_back(x - y);
         sumD += d.back();
         sumM += mean;
-        r.valuesA.push_back(rounded(x));
-        r.valuesB.push_back(rounded(y));
-        r.means.push_back(rounded(mean));
-        r.differences.push_back(rounded(d.back()));
-        r.ratios.push_back(rounded(ratioOf(d.back(), mean, criteria.percentage())));
+        record.valuesA.push_back(rounded(x));
+        record.valuesB.push_back(rounded(y));
+        record.means.push_back(rounded(mean));
+        record.differences.push_back(rounded(d.back()));
+        record.ratios.push_back(rounded(ratioOf(d.back(), mean, criteria.percentage())));
     }
     const auto n = static_cast<double>(d.size());
-    r.meanDifference = sumD / n;
+    record.meanDifference = sumD / n;
+    record.meanOfMeans = sumM / n;
     double squares = 0.0;
     for (const double difference : d) {
-        squares += (difference - r.meanDifference) * (difference - r.meanDifference);
+        squares += (difference - record.meanDifference) * (difference - record.meanDifference);
     }
-    r.sdDifference = std::sqrt(squares / (n - 1.0));
-    const int degreesOfFreedom = static_cast<int>(d.size()) - 1;
-    const double tBias = BldatmanAnalysis::tQuantile(criteria.ciLevelMeanDiff() / 100.0, degreesOfFreedom);
-    const double tLimits = BldatmanAnalysis::tQuantile(criteria.ciLevelAgreement() / 100.0, degreesOfFreedom);
-    const double z = BldatmanAnalysis::agreementMultiplier(criteria.agreementLimit());
-    const double biasHalf = tBias * (r.sdDifference / std::sqrt(n));
-    const double limitHalf = std::sqrt(z * z / (2.0 * (n - 1.0)) + 1.0 / n) * r.sdDifference * tLimits;
-    r.meanDifferenceCiLower = r.meanDifference - biasHalf;
-    r.meanDifferenceCiUpper = r.meanDifference + biasHalf;
-    r.lowerLimit = r.meanDifference - z * r.sdDifference;
-    r.upperLimit = r.meanDifference + z * r.sdDifference;
-    r.lowerLimitCiLower = r.lowerLimit - limitHalf;
-    r.lowerLimitCiUpper = r.lowerLimit + limitHalf;
-    r.upperLimitCiLower = r.upperLimit - limitHalf;
-    r.upperLimitCiUpper = r.upperLimit + limitHalf;
-    r.meanOfMeans = sumM / n;
-    const auto relative = [&r](double limit) { return r.meanOfMeans == 0.0 ? 0.0 : limit / r.meanOfMeans; };
-    r.lowerLimitRelative = relative(r.lowerLimit);
-    r.upperLimitRelative = relative(r.upperLimit);
-    r.lowerLimitCiLowerRelative = relative(r.lowerLimitCiLower);
-    r.lowerLimitCiUpperRelative = relative(r.lowerLimitCiUpper);
-    r.upperLimitCiLowerRelative = relative(r.upperLimitCiLower);
-    r.upperLimitCiUpperRelative = relative(r.upperLimitCiUpper);
-    return r;
+    record.sdDifference = std::sqrt(squares / (n - 1.0));
+    return record;
 }
 
-bool areTheSame(const BldatmanPairResult& one, const BldatmanPairResult& other)
+std::string firstDifference(const BldatmanPairResult& one, const BldatmanPairResult& other)
 {
-    return areTheSame(scalarsOf(one), scalarsOf(other)) && areTheSame(one.valuesA, other.valuesA) &&
-           areTheSame(one.valuesB, other.valuesB) && areTheSame(one.means, other.means) &&
-           areTheSame(one.differences, other.differences) && areTheSame(one.ratios, other.ratios);
+    const auto statistics = [](const BldatmanPairResult& record) {
+        return std::vector{record.meanDifference, record.sdDifference, record.meanOfMeans};
+    };
+    for (const std::string& difference :
+         {firstDifference("valuesA", one.valuesA, other.valuesA),
+          firstDifference("valuesB", one.valuesB, other.valuesB), firstDifference("means", one.means, other.means),
+          firstDifference("differences", one.differences, other.differences),
+          firstDifference("ratios", one.ratios, other.ratios),
+          firstDifference("statistics", statistics(one), statistics(other))}) {
+        if (!difference.empty()) {
+            return difference;
+        }
+    }
+    return "";
 }
 
 std::vector<Column> withoutMissingCases(const std::vector<Column>& columns)
 {
     std::vector<Column> kept(columns.size());
     for (std::size_t i = 0; i < columns.front().size(); ++i) {
-        const bool isWhole =
-            std::ranges::none_of(columns, [i](const Column& column) { return column[i] == systemMissingValue; });
-        for (std::size_t k = 0; isWhole && k < columns.size(); ++k) {
+        const bool isMissing = std::ranges::any_of(
+            columns, [i](const Column& column) { return column[i] == systemMissingValue || std::isnan(column[i]); });
+        for (std::size_t k = 0; !isMissing && k < columns.size(); ++k) {
             kept[k].push_back(columns[k][i]);
         }
     }
