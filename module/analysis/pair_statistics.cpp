@@ -217,8 +217,7 @@ void BldatmanAnalysis::removeMissingPairs(Column& a, Column& b, std::size_t limi
 {
     std::size_t kept = 0;
     for (std::size_t i = 0; i < limit; ++i) {
-        // Every case is moved, and the place goes on only past those that stay: no processor could foresee a branch
-        // here.
+        // Every case is moved, and the place goes on only past those that stay: a branch could not be foreseen.
         a[kept] = a[i];
         b[kept] = b[i];
         const bool isComplete = a[i] != systemMissingValue && b[i] != systemMissingValue;
