@@ -88,8 +88,8 @@ void addCell(Variable& variable, const CsvCell& cell, bool decimalComma)
     }
 }
 
-/// Makes room for as many cases as the text can hold: each takes a line, and a byte at least for each cell. (Of the
-/// rare text with lone CRs the room is made as it goes.)
+/// Makes room for as many cases as the text is likely to hold: each takes a line, and hardly less than two bytes for
+/// each cell. More is made room for as it comes.
 void reserveCases(DataSet& dataSet, std::string_view text)
 {
     const std::size_t cases = std::min(static_cast<std::size_t>(std::ranges::count(text, '\n')) + 1,

@@ -42,8 +42,11 @@ std::vector<std::string> writeOutputs(const Session& session, const Options& opt
     }
     ProgressLine line;
     const auto show = [&line](std::size_t drawn, std::size_t total) {
-        drawn < total ? line.show("Drawing plots", std::to_string(drawn) + " of " + std::to_string(total))
-                      : line.clear();
+        if (drawn < total) {
+            line.show("Drawing plots", std::to_string(drawn) + " of " + std::to_string(total));
+        } else {
+            line.clear();
+        }
     };
     PictureBook pictures(session.documents, show);
     const Report report{session.documents, options.language, pictures};
