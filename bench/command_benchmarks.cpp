@@ -2,11 +2,11 @@
 #include "bench/sizes.h"
 #include "module/data/case_reader.h"
 #include "module/entry/entry_point.h"
-#include "standin/csv_reader.h"
-#include "standin/render/render_json.h"
-#include "standin/session.h"
-#include "tests/support/made_data.h"
-#include "tests/support/plain_reference.h"
+#include "reference/made_data.h"
+#include "reference/plain_reference.h"
+#include "report/formats/render_json.h"
+#include "runner/input/csv_reader.h"
+#include "standin/session/session.h"
 
 #include <benchmark/benchmark.h>
 
@@ -32,23 +32,23 @@ bool hold(const standin::DataSet& dataSet, const std::vector<Column>& columns)
 
 void ReadCsv(benchmark::State& state)
 {
-    const std::vector<Column> columns = tests::makeColumns(2, bench::casesOf(state), 2);
-    const std::string csv = tests::csvOf(columns);
-    if (!hold(standin::readCsv(csv, "made.csv"), columns)) {
+    const std::vector<Column> columns = reference::makeColumns(2, bench::casesOf(state), 2);
+    const std::string csv = reference::csvOf(columns);
+    if (!hold(runner::readCsv(csv, "made.csv"), columns)) {
         state.SkipWithError("the values read are not those written");
         return;
     }
     for (auto _ : state) {
-        benchmark::DoNotOptimize(standin::readCsv(csv, "made.csv"));
+        benchmark::DoNotOptimize(runner::readCsv(csv, "made.csv"));
     }
     state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(csv.size()));
 }
 
 void ReadColumns(benchmark::State& state)
 {
-    const std::vector<Column> columns = tests::makeColumns(2, bench::casesOf(state), 2);
+    const std::vector<Column> columns = reference::makeColumns(2, bench::casesOf(state), 2);
     standin::Session session;
-    session.dataSet = standin::readCsv(tests::csvOf(columns), "made.csv");
+    session.dataSet = runner::readCsv(reference::csvOf(columns), "made.csv");
     ProcedureDataSource source;
     const auto read = [&] {
         std::vector<Column> made;
@@ -91,12 +91,12 @@ public:
     Whole(const std::string& csv, const std::string& command, Parts& parts)
     {
         Laps lap;
-        session_.dataSet = standin::readCsv(csv, "made.csv");
+        session_.dataSet = runner::readCsv(csv, "made.csv");
         session_.command = standin::singleCommand(command);
         lap(parts.reading);
         session_.run(BLDATMAN);
         lap(parts.module);
-        benchmark::DoNotOptimize(standin::renderJson(session_.documents));
+        benchmark::DoNotOptimize(report::renderJson(session_.documents));
         lap(parts.writing);
     }
 
@@ -135,7 +135,7 @@ bool isPlainlyRight(const Whole& whole, const std::vector<Column>& columns, std:
             if (i == j) {
                 continue;
             }
-            const auto record = tests::plainRecord(columns[i], columns[j], bldatman::BldatmanCriteriaSetting());
+            const auto record = reference::plainRecord(columns[i], columns[j], bldatman::BldatmanCriteriaSetting());
             if (!holds((*plots[next])["xdata"], record.means) || !holds((*plots[next])["ydata"], record.differences)) {
                 return false;
             }
@@ -148,7 +148,7 @@ bool isPlainlyRight(const Whole& whole, const std::vector<Column>& columns, std:
 void timeWhole(benchmark::State& state, const std::vector<Column>& columns, const std::string& command,
                std::size_t plotsPerPair)
 {
-    const std::string csv = tests::csvOf(columns);
+    const std::string csv = reference::csvOf(columns);
     Parts parts;
     if (!isPlainlyRight(Whole(csv, command, parts), columns, plotsPerPair)) {
         state.SkipWithError("the plots do not show what a plain computation gives");
@@ -166,7 +166,7 @@ void timeWhole(benchmark::State& state, const std::vector<Column>& columns, cons
 
 void WholeCommand(benchmark::State& state)
 {
-    timeWhole(state, tests::makeColumns(2, bench::casesOf(state), 2),
+    timeWhole(state, reference::makeColumns(2, bench::casesOf(state), 2),
               "VARIABLE=v0 WITH=v1 PRINT(MEANDIFF AGREEMENT) PLOT(RATIO AGREEMENT_LIMITS)", 2);
     bench::countCases(state);
 }
@@ -174,7 +174,7 @@ void WholeCommand(benchmark::State& state)
 void ManyPairs(benchmark::State& state)
 {
     const auto variables = static_cast<std::size_t>(state.range(0));
-    timeWhole(state, tests::makeColumns(variables, 1000, 2),
+    timeWhole(state, reference::makeColumns(variables, 1000, 2),
               "VARIABLE=v0:v" + std::to_string(variables - 1) + " PRINT(DETAILS MEANDIFF AGREEMENT)", 1);
     state.SetItemsProcessed(state.iterations() * state.range(0) * (state.range(0) - 1));
 }

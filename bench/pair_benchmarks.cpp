@@ -3,8 +3,8 @@
 #include "bench/sizes.h"
 #include "module/analysis/analysis.h"
 #include "module/analysis/listwise.h"
-#include "tests/support/made_data.h"
-#include "tests/support/plain_reference.h"
+#include "reference/made_data.h"
+#include "reference/plain_reference.h"
 
 #include <benchmark/benchmark.h>
 
@@ -46,7 +46,7 @@ void timeOnCopies(benchmark::State& state, const Whole& whole, Timed timed)
 /// The yardstick: what a pair fills that copies its values and then makes the five vectors of a record.
 void FreshCopies(benchmark::State& state)
 {
-    const std::vector<Column> columns = tests::makeColumns(7, bench::casesOf(state), 0);
+    const std::vector<Column> columns = reference::makeColumns(7, bench::casesOf(state), 0);
     for (auto _ : state) {
         std::vector<Column> copies;
         copies.reserve(columns.size());
@@ -61,14 +61,15 @@ void FreshCopies(benchmark::State& state)
 
 void timePair(benchmark::State& state, bool logTransform)
 {
-    const std::vector<Column> pair = tests::makeColumns(2, bench::casesOf(state), pairMissingPercent);
+    const std::vector<Column> pair = reference::makeColumns(2, bench::casesOf(state), pairMissingPercent);
     BldatmanCriteriaSubcommand raw;
     raw.logTransform = logTransform ? "TRUE" : "FALSE";
     const BldatmanCriteriaSetting criteria(raw);
     const auto analyse = [&] {
         return BldatmanAnalysis::performBlandAltmanAnalysis("a", "b", pair[0], pair[1], criteria);
     };
-    const std::string difference = tests::firstDifference(analyse(), tests::plainRecord(pair[0], pair[1], criteria));
+    const std::string difference =
+        reference::firstDifference(analyse(), reference::plainRecord(pair[0], pair[1], criteria));
     if (!difference.empty()) {
         state.SkipWithError(difference.c_str());
         return;
@@ -95,7 +96,7 @@ using Lists = std::pair<std::vector<Column>, std::vector<Column>>;
 
 Lists eightColumns(std::size_t cases)
 {
-    std::vector<Column> columns = tests::makeColumns(8, cases, listMissingPercent);
+    std::vector<Column> columns = reference::makeColumns(8, cases, listMissingPercent);
     return {{columns.begin(), columns.begin() + 4}, {columns.begin() + 4, columns.end()}};
 }
 
@@ -120,7 +121,7 @@ void Listwise(benchmark::State& state)
     all.insert(all.end(), lists.second.begin(), lists.second.end());
     std::vector<Column> kept = computed.first;
     kept.insert(kept.end(), computed.second.begin(), computed.second.end());
-    if (kept != tests::withoutMissingCases(all)) {
+    if (kept != reference::withoutMissingCases(all)) {
         state.SkipWithError("the columns differ from the plain reference");
         return;
     }
@@ -129,7 +130,7 @@ void Listwise(benchmark::State& state)
 
 BldatmanPairResult recordOf(std::size_t cases)
 {
-    std::vector<Column> columns = tests::makeColumns(2, cases, 0);
+    std::vector<Column> columns = reference::makeColumns(2, cases, 0);
     return BldatmanAnalysis::performBlandAltmanAnalysis("a", "b", columns[0], columns[1], BldatmanCriteriaSetting());
 }
 

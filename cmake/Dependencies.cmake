@@ -18,6 +18,7 @@ bldatman_header_library(boost_headers boost math/distributions/students_t.hpp)
 bldatman_header_library(rapidjson rapidjson document.h)
 bldatman_header_library(cli11 CLI CLI.hpp)
 bldatman_header_library(mustache kainjow mustache.hpp)
+bldatman_header_library(utf8cpp utf8cpp utf8.h)
 
 # One definition of RapidJSON's types in the module and in the host.
 target_compile_definitions(rapidjson INTERFACE RAPIDJSON_HAS_STDSTRING=1)

@@ -1,7 +1,7 @@
 // The statements of a chart, one to a line, through the drawing up to what gnuplot is told.
-#include "standin/drawing/chart.h"
 #include "fuzz/target.h"
-#include "standin/drawing/gnuplot_script.h"
+#include "report/drawing/gnuplot_script.h"
+#include "report/plots/plot.h"
 
 #include <rapidjson/document.h>
 
@@ -37,8 +37,8 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
     graph.AddMember("data", columns(allocator), allocator);
     graph.AddMember("gpl", statements, allocator);
     try {
-        standin::gnuplotScript(standin::readChart(graph));
-    } catch (const standin::ChartError&) {  // the reason that stands in the picture's place
+        report::gnuplotScript(report::readChart(graph));
+    } catch (const report::ChartError&) {  // the reason that stands in the picture's place
     }
     return 0;
 }

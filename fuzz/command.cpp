@@ -1,9 +1,10 @@
 // A command file through parser and module, over a small data set: nothing escapes, and the contract is kept.
 #include "fuzz/target.h"
 #include "module/entry/entry_point.h"
-#include "standin/csv_reader.h"
-#include "standin/input_error.h"
-#include "standin/session.h"
+#include "runner/input/command_file.h"
+#include "runner/input/csv_reader.h"
+#include "runner/input/input_error.h"
+#include "standin/session/session.h"
 
 #include <cstdlib>
 #include <iostream>
@@ -20,7 +21,7 @@ protected:
 void run(const standin::CommandText& command)
 {
     standin::Session session;
-    session.dataSet = standin::readCsv("a,b,c,t,d e\n1,2,2,x,1\n3,5,,y,2\n4,4,5,x,3\n2,3,1,,4\n", "data.csv");
+    session.dataSet = runner::readCsv("a,b,c,t,d e\n1,2,2,x,1\n3,5,,y,2\n4,4,5,x,3\n2,3,1,,4\n", "data.csv");
     session.command = command;
     session.run(BLDATMAN);
     if (!session.monitor.breach().empty()) {
@@ -37,10 +38,10 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
     const std::string text = fuzz::textOf(data, size);
     run(standin::singleCommand(text));
     try {
-        for (const standin::CommandText& command : standin::cutCommands(text, "commands.bld")) {
+        for (const standin::CommandText& command : runner::cutCommands(text, "commands.bld")) {
             run(command);
         }
-    } catch (const standin::InputError&) {  // what a user is told
+    } catch (const runner::InputError&) {  // what a user is told
     }
     return 0;
 }

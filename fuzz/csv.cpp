@@ -1,20 +1,20 @@
 // A data file: a data set whose columns agree, or an error that is told.
 #include "fuzz/target.h"
-#include "standin/csv_reader.h"
-#include "standin/input_error.h"
+#include "runner/input/csv_reader.h"
+#include "runner/input/input_error.h"
 
 #include <cstdlib>
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     try {
-        const standin::DataSet read = standin::readCsv(fuzz::textOf(data, size), "data.csv");
+        const standin::DataSet read = runner::readCsv(fuzz::textOf(data, size), "data.csv");
         for (const standin::Variable& variable : read.variables) {
             if (variable.name.empty() || variable.values.size() != read.caseCount) {
                 std::abort();
             }
         }
-    } catch (const standin::InputError&) {  // what a user is told
+    } catch (const runner::InputError&) {  // what a user is told
     }
     return 0;
 }

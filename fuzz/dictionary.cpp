@@ -1,8 +1,8 @@
 // A dictionary over a data set, which it leaves alone when it is refused.
+#include "runner/input/dictionary.h"
 #include "fuzz/target.h"
-#include "standin/csv_reader.h"
-#include "standin/dictionary_reader.h"
-#include "standin/input_error.h"
+#include "runner/input/csv_reader.h"
+#include "runner/input/input_error.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -19,11 +19,11 @@ bool areEqual(const standin::Variable& one, const standin::Variable& other)
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    standin::DataSet dataSet = standin::readCsv("a,b,t\n1,2,x\n3,-9,y\n", "data.csv");
+    standin::DataSet dataSet = runner::readCsv("a,b,t\n1,2,x\n3,-9,y\n", "data.csv");
     const standin::DataSet before = dataSet;
     try {
-        standin::applyDictionary(dataSet, fuzz::textOf(data, size), "names.json");
-    } catch (const standin::InputError&) {
+        runner::applyDictionary(dataSet, fuzz::textOf(data, size), "names.json");
+    } catch (const runner::InputError&) {
         if (!std::ranges::equal(dataSet.variables, before.variables, areEqual)) {
             std::abort();
         }

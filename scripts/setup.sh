@@ -40,7 +40,7 @@ build_program() {
     cmake --build --preset release --target bldatman bldatman-run
 }
 
-build_packages=(g++ cmake ninja-build libboost-dev rapidjson-dev libcli11-dev libkainjow-mustache-dev gnuplot-nox)
+build_packages=(g++ cmake ninja-build libboost-dev rapidjson-dev libcli11-dev libkainjow-mustache-dev libutfcpp-dev gnuplot-nox)
 test_packages=(libgtest-dev libgmock-dev python3 binutils dpkg-dev file locales)
 windows_packages=(g++-mingw-w64-x86-64-posix googletest wine wine64)
 bench_packages=(libbenchmark-dev python3 time)

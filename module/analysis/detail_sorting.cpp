@@ -1,8 +1,7 @@
-#include "module/analysis/analysis.h"
+#include "module/analysis/detail_sorting.h"
 
 #include <algorithm>
 #include <cmath>
-#include <cstddef>
 #include <functional>
 #include <stdexcept>
 #include <utility>
@@ -83,7 +82,7 @@ std::vector<std::size_t> sortedPositions(const std::vector<double>& keys, bool d
 
 }  // namespace
 
-void BldatmanAnalysis::sortDetails(BldatmanPairResult& record, const std::string& key, bool descending)
+void BldatmanDetailSorting::sortDetails(BldatmanPairResult& record, const std::string& key, bool descending)
 {
     const std::vector<double>& keys = keyVector(record, key);
     if (keys.empty()) {
@@ -96,7 +95,7 @@ void BldatmanAnalysis::sortDetails(BldatmanPairResult& record, const std::string
     }
 }
 
-void BldatmanAnalysis::applyPermutation(std::vector<double>& values, const std::vector<std::size_t>& positions)
+void BldatmanDetailSorting::applyPermutation(std::vector<double>& values, const std::vector<std::size_t>& positions)
 {
     std::vector<double> reordered(positions.size());
     std::ranges::transform(positions, reordered.begin(), [&values](std::size_t position) { return values[position]; });

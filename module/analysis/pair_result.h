@@ -49,4 +49,10 @@ inline double relativeToMean(double statistic, double meanOfMeans)
     return meanOfMeans == 0.0 ? 0.0 : statistic / meanOfMeans;
 }
 
+/// The factor with which the output shows what is relative to the mean: 100 for percentages, else 1.
+inline double ratioMultiplier(bool percentage)
+{
+    return percentage ? 100.0 : 1.0;
+}
+
 }  // namespace bldatman

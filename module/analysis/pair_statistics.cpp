@@ -1,6 +1,7 @@
-// The computation of one pair. The numbers in the comments are those of the promises in analysis.h.
+// The numbers in the comments are those of the promises.
+#include "module/analysis/pair_statistics.h"
+
 #include "host/missing_value.h"
-#include "module/analysis/analysis.h"
 #include "module/analysis/case_blocks.h"
 #include "module/analysis/column_arithmetic.h"
 #include "module/diagnostics.h"
@@ -31,6 +32,7 @@ void refuseEqualNames(const std::string& nameA, const std::string& nameB)
     }
 }
 
+/// For two decimals the number itself: nothing is left to how well a library raises to a power.
 double decimalFactor(int decimals)
 {
     return decimals == 2 ? 100.0 : std::pow(10.0, decimals);
@@ -52,7 +54,7 @@ void takeValues(BldatmanPairResult& record, Column a, Column b)
     for (Column* values : {&a, &b}) {
         values->resize(count);
         if (values->capacity() / 2 > count) {
-            values->shrink_to_fit();
+            values->shrink_to_fit();  // worth a copy: the record keeps its room until the command ends
         }
     }
     record.valuesA = std::move(a);
@@ -64,9 +66,9 @@ std::size_t caseCount(const BldatmanPairResult& record)
     return record.differences.size();
 }
 
-/// Promises 3 and 8, in one walk over the cases: when it ends the values are rounded, the means and differences not
-/// yet.
-void setMeansAndDifferences(BldatmanPairResult& record, bool logTransform)
+/// Promises 3 and 8, in one walk over the cases: the values as logarithms and then rounded, the means and differences
+/// of what they were before they were rounded.
+void setCaseValues(BldatmanPairResult& record, bool logTransform)
 {
     const std::size_t count = record.valuesA.size();
     record.means.reserve(count);
@@ -97,10 +99,10 @@ int degreesOfFreedom(const BldatmanPairResult& record)
 /// Promises 4 and 5.
 void setBias(BldatmanPairResult& record, double level)
 {
-    record.meanDifference = BldatmanAnalysis::computeMean(record.differences);
-    record.sdDifference = BldatmanAnalysis::computeSD(record.differences, record.meanDifference);
+    record.meanDifference = BldatmanPairStatistics::computeMean(record.differences);
+    record.sdDifference = BldatmanPairStatistics::computeSD(record.differences, record.meanDifference);
     const double standardError = record.sdDifference / std::sqrt(static_cast<double>(caseCount(record)));
-    const double t = BldatmanAnalysis::tQuantile(level / 100.0, degreesOfFreedom(record));
+    const double t = BldatmanPairStatistics::tQuantile(level / 100.0, degreesOfFreedom(record));
     record.meanDifferenceCiLower = record.meanDifference - t * standardError;
     record.meanDifferenceCiUpper = record.meanDifference + t * standardError;
 }
@@ -109,8 +111,8 @@ void setBias(BldatmanPairResult& record, double level)
 void setLimits(BldatmanPairResult& record, double agreementLimit, double level)
 {
     const auto n = static_cast<double>(caseCount(record));
-    const double t = BldatmanAnalysis::tQuantile(level / 100.0, degreesOfFreedom(record));
-    const double z = BldatmanAnalysis::agreementMultiplier(agreementLimit);
+    const double t = BldatmanPairStatistics::tQuantile(level / 100.0, degreesOfFreedom(record));
+    const double z = BldatmanPairStatistics::agreementMultiplier(agreementLimit);
     record.upperLimit = record.meanDifference + z * record.sdDifference;
     record.lowerLimit = record.meanDifference - z * record.sdDifference;
     const double halfWidth = std::sqrt(z * z / (2.0 * (n - 1.0)) + 1.0 / n) * record.sdDifference * t;
@@ -123,7 +125,7 @@ void setLimits(BldatmanPairResult& record, double agreementLimit, double level)
 /// Promise 7.
 void setRelativeLimits(BldatmanPairResult& record)
 {
-    record.meanOfMeans = BldatmanAnalysis::computeMean(record.means);
+    record.meanOfMeans = BldatmanPairStatistics::computeMean(record.means);
     const auto relative = [&record](double limit) { return relativeToMean(limit, record.meanOfMeans); };
     record.lowerLimitRelative = relative(record.lowerLimit);
     record.lowerLimitCiLowerRelative = relative(record.lowerLimitCiLower);
@@ -133,8 +135,8 @@ void setRelativeLimits(BldatmanPairResult& record)
     record.upperLimitCiUpperRelative = relative(record.upperLimitCiUpper);
 }
 
-/// Promise 8, the rest of it: the ratios, and the rounding of the means and differences.
-void setRatiosAndRound(BldatmanPairResult& record, bool percentage)
+/// Promise 8, the rest of it: the ratios, of means and differences that are rounded only then.
+void setRatiosAndRoundPairs(BldatmanPairResult& record, bool percentage)
 {
     record.ratios.reserve(caseCount(record));
     const double factor = decimalFactor(storedDecimals);
@@ -150,9 +152,9 @@ void setRatiosAndRound(BldatmanPairResult& record, bool percentage)
 
 }  // namespace
 
-BldatmanPairResult BldatmanAnalysis::performBlandAltmanAnalysis(const std::string& nameA, const std::string& nameB,
-                                                                Column a, Column b,
-                                                                const BldatmanCriteriaSetting& criteria)
+BldatmanPairResult BldatmanPairStatistics::performBlandAltmanAnalysis(const std::string& nameA,
+                                                                      const std::string& nameB, Column a, Column b,
+                                                                      const BldatmanCriteriaSetting& criteria)
 {
     BldatmanPairResult record{};
     refuseEqualNames(nameA, nameB);
@@ -162,15 +164,15 @@ BldatmanPairResult BldatmanAnalysis::performBlandAltmanAnalysis(const std::strin
         removeMissingPairs(a, b, std::min(a.size(), b.size()));
     }
     takeValues(record, std::move(a), std::move(b));
-    setMeansAndDifferences(record, criteria.logTransform());  // exact up to the last step
+    setCaseValues(record, criteria.logTransform());  // exact up to the last step
     setBias(record, criteria.ciLevelMeanDiff());
     setLimits(record, criteria.agreementLimit(), criteria.ciLevelAgreement());
     setRelativeLimits(record);
-    setRatiosAndRound(record, criteria.percentage());
+    setRatiosAndRoundPairs(record, criteria.percentage());
     return record;
 }
 
-double BldatmanAnalysis::computeMean(const std::vector<double>& values)
+double BldatmanPairStatistics::computeMean(const std::vector<double>& values)
 {
     double sum = 0.0;
     for (const double value : values) {
@@ -179,7 +181,7 @@ double BldatmanAnalysis::computeMean(const std::vector<double>& values)
     return sum / static_cast<double>(values.size());
 }
 
-double BldatmanAnalysis::computeSD(const std::vector<double>& values, double mean)
+double BldatmanPairStatistics::computeSD(const std::vector<double>& values, double mean)
 {
     double sum = 0.0;
     for (const double value : values) {
@@ -188,7 +190,7 @@ double BldatmanAnalysis::computeSD(const std::vector<double>& values, double mea
     return std::sqrt(sum / (static_cast<double>(values.size()) - 1.0));
 }
 
-double BldatmanAnalysis::agreementMultiplier(double agreementLimit)
+double BldatmanPairStatistics::agreementMultiplier(double agreementLimit)
 {
     if (agreementLimit == 95.0) {
         return 1.96;
@@ -206,14 +208,14 @@ double BldatmanAnalysis::agreementMultiplier(double agreementLimit)
     return boost::math::quantile(standardNormal, (agreementLimit / 100.0 + 1.0) * 0.5);
 }
 
-double BldatmanAnalysis::tQuantile(double fraction, int degreesOfFreedom)
+double BldatmanPairStatistics::tQuantile(double fraction, int degreesOfFreedom)
 {
     const boost::math::students_t_distribution<double> studentsT(degreesOfFreedom);
     return boost::math::quantile(studentsT, (fraction + 1.0) * 0.5);
 }
 
 /// Promise 2.
-void BldatmanAnalysis::removeMissingPairs(Column& a, Column& b, std::size_t limit)
+void BldatmanPairStatistics::removeMissingPairs(Column& a, Column& b, std::size_t limit)
 {
     std::size_t kept = 0;
     for (std::size_t i = 0; i < limit; ++i) {
@@ -231,7 +233,7 @@ void BldatmanAnalysis::removeMissingPairs(Column& a, Column& b, std::size_t limi
     closeGap(b);
 }
 
-double BldatmanAnalysis::roundToDecimals(double value, int decimals)
+double BldatmanPairStatistics::roundToDecimals(double value, int decimals)
 {
     roundAll(std::span(&value, 1), decimalFactor(decimals));
     return value;

@@ -141,7 +141,7 @@ std::string BldatmanOutputChart::footnote() const
     const char* key = dodge_ ? "Overlapping points are displayed using dodge to enhance visibility."
                              : "Note : Disabled dodge for potential performance gains, Overlapping data points will be "
                                "hidden";
-    return catalogue_->getText(key, "", "");
+    return catalogue_->getText(key);
 }
 
 }  // namespace bldatman

@@ -1,10 +1,7 @@
-// The plots of every pair: one of the differences and, when asked for, one of the ratios.
-//
-// Every line that a plot could show is handed over as a column of two equal values over the two ends of "xMinMax"; the
-// chart's statements choose which of them are drawn.
+#include "module/charts/plot_assembly.h"
+
 #include "module/charts/output_chart.h"
-#include "module/output/labels.h"
-#include "module/output/output.h"
+#include "module/texts/labels.h"
 
 #include <algorithm>
 #include <array>
@@ -122,15 +119,16 @@ void addPlot(BldatmanOutputChart& chart, PlotFrame& frame, const PlotContent& co
 }
 
 PlotFrame makeFrame(const BldatmanPairResult& record, const BldatmanTextCatalogue& catalogue,
-                    const std::string& limitLabel, const std::string& limitIntervalLabel)
+                    const BldatmanCriteriaSetting& criteria)
 {
     return {
         .xAxisLabel = catalogue.getText("Mean of ^1 and ^2", record.nameA, record.nameB),
         .xMinMax = lineEnds(record.means),
         .y0 = level(0.0),
-        .cref = legend(catalogue.getText("Reference line at 0.", "", "")),
-        .calimits = legend(limitLabel),
-        .crefALimitsCI = legend(limitIntervalLabel),
+        .cref = legend(catalogue.getText("Reference line at 0.")),
+        .calimits = legend(plotLimitLabel(criteria.agreementLimit(), catalogue)),
+        .crefALimitsCI = legend(
+            catalogue.getText("^1 Confidence intervals of Agreement Limits", formatLevel(criteria.ciLevelAgreement()))),
     };
 }
 
@@ -142,8 +140,8 @@ PlotContent differencePlot(const BldatmanPairResult& record, const BldatmanTextC
         .x = record.means,
         .y = record.differences,
         .levels = differenceLevels(record),
-        .meanLegend = catalogue.getText("Mean Difference", "", ""),
-        .meanIntervalLegend = catalogue.getText("Confidence interval of Mean Difference", "", ""),
+        .meanLegend = catalogue.getText("Mean Difference"),
+        .meanIntervalLegend = catalogue.getText("Confidence interval of Mean Difference"),
     };
 }
 
@@ -158,44 +156,27 @@ PlotContent ratioPlot(const BldatmanPairResult& record, const BldatmanTextCatalo
         .x = record.means,
         .y = record.ratios,
         .levels = ratioLevels(record, percentage),
-        .meanLegend = catalogue.getText(mean, "", ""),
-        .meanIntervalLegend = catalogue.getText(meanInterval, "", ""),
+        .meanLegend = catalogue.getText(mean),
+        .meanIntervalLegend = catalogue.getText(meanInterval),
     };
 }
 
 }  // namespace
 
-bool BldatmanOutput::createPlots()
+void addPlots(StatJSONGenerator& document, const std::vector<BldatmanPairResult>& results,
+              const BldatmanInputSetting& settings, const BldatmanTextCatalogue& catalogue)
 {
-    const BldatmanCriteriaSetting& criteria = settings_->criteriaSetting();
-    const auto draw = [this](PlotFrame& frame, const PlotContent& content) {
-        BldatmanOutputChart chart(*generator_, *settings_, content.title, *catalogue_);
+    const BldatmanCriteriaSetting& criteria = settings.criteriaSetting();
+    const auto draw = [&](PlotFrame& frame, const PlotContent& content) {
+        BldatmanOutputChart chart(document, settings, content.title, catalogue);
         addPlot(chart, frame, content);
     };
-    for (const BldatmanPairResult& record : *results_) {
-        PlotFrame frame =
-            makeFrame(record, *catalogue_, makeAgreementLimitLabel(),
-                      text("^1 Confidence intervals of Agreement Limits", formatLevel(criteria.ciLevelAgreement())));
-        draw(frame, differencePlot(record, *catalogue_));
-        if (settings_->plotSubcommand().ratio) {
-            draw(frame, ratioPlot(record, *catalogue_, criteria.percentage()));
+    for (const BldatmanPairResult& record : results) {
+        PlotFrame frame = makeFrame(record, catalogue, criteria);
+        draw(frame, differencePlot(record, catalogue));
+        if (settings.plotSubcommand().ratio) {
+            draw(frame, ratioPlot(record, catalogue, criteria.percentage()));
         }
-    }
-    return false;
-}
-
-/// The three forms differ on purpose: two deviations fill the placeholder of one text; three deviations, and a coverage
-/// with its sign, stand before another text whose placeholder is filled with nothing.
-std::string BldatmanOutput::makeAgreementLimitLabel() const
-{
-    const std::string limit = formatLevel(settings_->criteriaSetting().agreementLimit());
-    switch (limitsRule(limit)) {
-    case LimitsRule::TwoDeviations:
-        return text("^1 Agreement", "2 SD");
-    case LimitsRule::ThreeDeviations:
-        return "3 SD" + text("^1 Agreement Limit");
-    default:
-        return limit + "%" + text("^1 Agreement Limit");
     }
 }
 

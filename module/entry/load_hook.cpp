@@ -2,36 +2,25 @@
 
 #include "host/common_areas.h"
 
+#include <cstddef>
+
 namespace bldatman {
 
 namespace {
 
 LoadState state;
 
+/// Calls the getters in the order in which they are promised to be called.
 void fetchCommonAreas()
 {
-    state.cmnBpr = pvGetCmnBpr();
-    state.cmaDic = pvGetCmaDic();
-    state.cmaGlb = pvGetCmaGlb();
-    state.cmaMch = pvGetCmaMch();
-    state.cmaObv = pvGetCmaObv();
-    state.cmaSym = pvGetCmaSym();
-    state.cmaSys = pvGetCmaSys();
-    state.cmnDic = pvGetCmnDic();
-    state.cmnDmo = pvGetCmnDmo();
-    state.cmnGlb = pvGetCmnGlb();
-    state.cmnInc = pvGetCmnInc();
-    state.cmnIo = pvGetCmnIo();
-    state.cmnLoc = pvGetCmnLoc();
-    state.cmnMch = pvGetCmnMch();
-    state.cmnMcs = pvGetCmnMcs();
-    state.cmnObv = pvGetCmnObv();
-    state.cmnStk = pvGetCmnStk();
-    state.cmnSym = pvGetCmnSym();
-    state.cmnSys = pvGetCmnSys();
-    state.cmnWrk = pvGetCmnWrk();
-    state.cmnDtm = pvGetCmnDtm();
-    state.cmnBox = pvGetCmnBox();
+    const std::array getters = {
+        pvGetCmnBpr, pvGetCmaDic, pvGetCmaGlb, pvGetCmaMch, pvGetCmaObv, pvGetCmaSym, pvGetCmaSys, pvGetCmnDic,
+        pvGetCmnDmo, pvGetCmnGlb, pvGetCmnInc, pvGetCmnIo,  pvGetCmnLoc, pvGetCmnMch, pvGetCmnMcs, pvGetCmnObv,
+        pvGetCmnStk, pvGetCmnSym, pvGetCmnSys, pvGetCmnWrk, pvGetCmnDtm, pvGetCmnBox,
+    };
+    for (std::size_t i = 0; i < getters.size(); ++i) {
+        state.commonAreas[i] = getters[i]();
+    }
 }
 
 }  // namespace

@@ -1,16 +1,13 @@
-// The details table: one row per case, with the two measurements, their mean, difference and ratio.
-#include "module/output/labels.h"
-#include "module/output/output.h"
+#include "module/output/details_table.h"
+
 #include "module/output/pivot_table.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstdint>
-#include <initializer_list>
 #include <memory>
 #include <string>
-#include <utility>
 
 namespace bldatman {
 
@@ -60,12 +57,38 @@ CellValue measurement(double value)
     return value;
 }
 
-std::unique_ptr<Descendants> makeColumns(PivotTable& table, std::initializer_list<std::string> headers)
+void addFootnotes(PivotTable& table, const TableInputs& inputs, std::uint64_t rowCount)
 {
+    const BldatmanTextCatalogue& catalogue = inputs.catalogue;
+    table.addFootnote(catalogue.getText("First ^1 records are printed.", std::to_string(rowCount)));
+    table.addFootnote(
+        catalogue.getText("For cases where the mean between the two measurements is zero, the ratio is set to zero, "
+                          "reflecting identical measurements and included in all plots."));
+    if (inputs.settings.criteriaSetting().logTransform()) {
+        table.addFootnote(catalogue.getText("Data_are_log-transformed"));
+    }
+    const BldatmanPrintSetting& print = inputs.settings.printSetting();
+    if (print.sortOrder() == BldatmanPrintSetting::unsorted) {
+        return;
+    }
+    if (const char* key = sortNoteKey(print)) {
+        table.addFootnote(catalogue.getText(key, inputs.nameA));
+    } else {
+        // Intended: a sort by something unknown is referred to, though there is nothing to say about it.
+        table.referToFootnote();
+    }
+}
+
+std::unique_ptr<Descendants> makeColumns(PivotTable& table, const TableInputs& inputs)
+{
+    const BldatmanTextCatalogue& catalogue = inputs.catalogue;
+    const std::string percentSign = inputs.settings.criteriaSetting().percentage() ? "%" : "";
     auto columns = table.makeGroup();
     columns->set_label(" ");
     columns->setShowLabel(false);
-    for (const std::string& header : headers) {
+    for (const std::string& header :
+         {inputs.nameA, inputs.nameB, catalogue.getText("Mean"), catalogue.getText("Difference"),
+          catalogue.getText("Difference/Mean") + percentSign}) {
         table.addHeader(*columns, header);
     }
     return columns;
@@ -82,45 +105,20 @@ void addRows(PivotTable& table, const BldatmanPairResult& record, std::uint64_t 
 
 }  // namespace
 
-int BldatmanOutput::createDetailsTable(const BldatmanPairResult& record, std::string nameA, std::string nameB)
+void addDetailsTable(const TableInputs& inputs)
 {
-    if (results_->empty()) {
-        return 1;
-    }
-    if (!settings_->printSetting().details()) {
-        return 0;
-    }
-    const std::uint64_t rowCount = detailRowCount(record, settings_->printSetting());
-    PivotTable table(*generator_, "Bland-Altman Analysis Details",
-                     text("Bland-Altman_Analysis_Details (^1 and ^2)", nameA, nameB));
-    table.setDefaultFormat();
-    addDetailFootnotes(table, rowCount, nameA);
-    const std::string percentSign = settings_->criteriaSetting().percentage() ? "%" : "";
-    table.beginBody(
-        makeColumns(table, {nameA, nameB, text("Mean"), text("Difference"), text("Difference/Mean") + percentSign}));
-    addRows(table, record, rowCount);
-    table.emit();
-    return 0;
-}
-
-void BldatmanOutput::addDetailFootnotes(PivotTable& table, std::uint64_t rowCount, const std::string& nameA) const
-{
-    table.addFootnote(text("First ^1 records are printed.", std::to_string(rowCount)));
-    table.addFootnote(text("For cases where the mean between the two measurements is zero, the ratio is set to zero, "
-                           "reflecting identical measurements and included in all plots."));
-    if (settings_->criteriaSetting().logTransform()) {
-        table.addFootnote(text("Data_are_log-transformed"));
-    }
-    const BldatmanPrintSetting& print = settings_->printSetting();
-    if (print.sortOrder() == BldatmanPrintSetting::unsorted) {
+    const BldatmanPrintSetting& print = inputs.settings.printSetting();
+    if (!print.details()) {
         return;
     }
-    if (const char* key = sortNoteKey(print)) {
-        table.addFootnote(text(key, nameA));
-    } else {
-        // Intended: a sort by something unknown is referred to, though there is nothing to say about it.
-        table.referToFootnote();
-    }
+    const std::uint64_t rowCount = detailRowCount(inputs.record, print);
+    PivotTable table(inputs.document, "Bland-Altman Analysis Details",
+                     inputs.catalogue.getText("Bland-Altman_Analysis_Details (^1 and ^2)", inputs.nameA, inputs.nameB));
+    table.setDefaultFormat();
+    addFootnotes(table, inputs, rowCount);
+    table.beginBody(makeColumns(table, inputs));
+    addRows(table, inputs.record, rowCount);
+    table.emit();
 }
 
 }  // namespace bldatman

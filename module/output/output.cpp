@@ -1,5 +1,10 @@
 #include "module/output/output.h"
 
+#include "module/charts/plot_assembly.h"
+#include "module/output/details_table.h"
+#include "module/output/interval_tables.h"
+#include "module/texts/labels.h"
+
 namespace bldatman {
 
 BldatmanOutput::BldatmanOutput(BpProcedure& procedure, ProcedureDataSource& source,
@@ -12,7 +17,7 @@ BldatmanOutput::BldatmanOutput(BpProcedure& procedure, ProcedureDataSource& sour
     , catalogue_(std::make_unique<BldatmanTextCatalogue>(BldatmanTextCatalogue::chooseLanguage()))
 {
     // Last, since its title is a text of the catalogue.
-    generator_ = std::make_unique<StatJSONGenerator>(text("Bland-Altman Analysis"), "");
+    generator_ = std::make_unique<StatJSONGenerator>(catalogue_->getText("Bland-Altman Analysis"), "");
 }
 
 BldatmanOutput::~BldatmanOutput()
@@ -40,9 +45,50 @@ int BldatmanOutput::generate()
     return static_cast<int>(status);
 }
 
-std::string BldatmanOutput::text(const std::string& key, const std::string& arg1, const std::string& arg2) const
+std::string BldatmanOutput::formatLevel(double level)
 {
-    return catalogue_->getText(key, arg1, arg2);
+    return bldatman::formatLevel(level);
+}
+
+std::string BldatmanOutput::agreementLabel() const
+{
+    return tableLimitLabel(settings_->criteriaSetting().agreementLimit(), *catalogue_);
+}
+
+std::string BldatmanOutput::makeAgreementLimitLabel() const
+{
+    return plotLimitLabel(settings_->criteriaSetting().agreementLimit(), *catalogue_);
+}
+
+int BldatmanOutput::createDetailsTable(const BldatmanPairResult& record, std::string nameA, std::string nameB)
+{
+    return createTable(addDetailsTable, record, nameA, nameB);
+}
+
+int BldatmanOutput::createMeanDifferenceCITable(const BldatmanPairResult& record, std::string nameA, std::string nameB)
+{
+    return createTable(addMeanDifferenceTable, record, nameA, nameB);
+}
+
+int BldatmanOutput::createAgreementLimitCITable(const BldatmanPairResult& record, std::string nameA, std::string nameB)
+{
+    return createTable(addAgreementLimitTable, record, nameA, nameB);
+}
+
+int BldatmanOutput::createTable(void (*add)(const TableInputs& inputs), const BldatmanPairResult& record,
+                                const std::string& nameA, const std::string& nameB)
+{
+    if (results_->empty()) {
+        return 1;
+    }
+    add({*generator_, record, nameA, nameB, *settings_, *catalogue_});
+    return 0;
+}
+
+bool BldatmanOutput::createPlots()
+{
+    addPlots(*generator_, *results_, *settings_, *catalogue_);
+    return false;
 }
 
 }  // namespace bldatman

@@ -8,14 +8,13 @@
 #include "module/settings/input_setting.h"
 #include "module/texts/text_catalogue.h"
 
-#include <cstdint>
 #include <memory>
 #include <string>
 #include <vector>
 
 namespace bldatman {
 
-class PivotTable;
+struct TableInputs;
 
 class BldatmanOutput {
 public:
@@ -31,13 +30,12 @@ public:
     /// Returns 1, with nothing done, when there is no pair, else 0. Whether the host could deliver is not looked at.
     int generate();
 
-    /// "%.2f" in the C numeric locale, which the module never sets.
     static std::string formatLevel(double level);
 
-    /// The label of the limits of agreement in the tables: "95.00% Agreement", "2 SD Agreement".
+    /// The label of the limits of agreement in the tables.
     std::string agreementLabel() const;
 
-    /// The label of the limits of agreement in the plots, which is made otherwise; defined in charts/.
+    /// The label of the limits of agreement in the plots, which is made otherwise.
     std::string makeAgreementLimitLabel() const;
 
 private:
@@ -47,19 +45,11 @@ private:
     int createMeanDifferenceCITable(const BldatmanPairResult& record, std::string nameA, std::string nameB);
     int createAgreementLimitCITable(const BldatmanPairResult& record, std::string nameA, std::string nameB);
 
-    void addDetailFootnotes(PivotTable& table, std::uint64_t rowCount, const std::string& nameA) const;
-    void addLogFootnote(PivotTable& table) const;
-    std::unique_ptr<Descendants> makeBiasColumns(PivotTable& table) const;
-    std::unique_ptr<Descendants> makeLimitColumns(PivotTable& table) const;
-    void addIntervalRowLabels(PivotTable& table, const std::string& nameA, const std::string& nameB) const;
+    int createTable(void (*add)(const TableInputs& inputs), const BldatmanPairResult& record, const std::string& nameA,
+                    const std::string& nameB);
 
-    /// The plots of all pairs; defined in charts/. Returns false: no failure.
+    /// The plots of all pairs. Returns false: no failure.
     bool createPlots();
-
-    std::string text(const std::string& key, const std::string& arg1 = {}, const std::string& arg2 = {}) const;
-
-    /// "95.00% Confidence Interval"; the catalogue places the level and the sign.
-    std::string confidenceIntervalLabel(double level) const;
 
     std::unique_ptr<StatJSONGenerator> generator_;
     std::unique_ptr<ACAVarValidSpecs> validSpecs_;

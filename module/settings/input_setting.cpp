@@ -1,5 +1,6 @@
 #include "module/settings/input_setting.h"
 
+#include "host/command_parser.h"
 #include "module/diagnostics.h"
 
 #include <stdexcept>
@@ -12,8 +13,11 @@ BldatmanInputSetting::BldatmanInputSetting(CommandSpec& command, CommandDescript
     : commandSpec_(command)
     , commandDescriptor_(descriptor)
     , dataSource_(source)
+    , parserMessage_(std::make_unique<ParserMessage>())
 {
 }
+
+BldatmanInputSetting::~BldatmanInputSetting() = default;
 
 int BldatmanInputSetting::start()
 {

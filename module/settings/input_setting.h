@@ -1,13 +1,17 @@
 // The settings of one command: read once from the parsed command, read-only afterwards.
 #pragma once
 
-#include "host/command_parser.h"
-#include "host/procedure.h"
 #include "module/settings/setting_records.h"
 #include "module/settings/subcommand_records.h"
 
-#include <optional>
+#include <memory>
 #include <vector>
+
+class CommandDescriptor;
+class CommandSpec;
+class ParserMessage;
+class ProcedureDataSource;
+class SubComObj;
 
 namespace bldatman {
 
@@ -16,6 +20,9 @@ class BldatmanInputSetting {
 public:
     /// Keeps the three references; reads nothing yet.
     BldatmanInputSetting(CommandSpec& command, CommandDescriptor& descriptor, ProcedureDataSource& source);
+    ~BldatmanInputSetting();
+    BldatmanInputSetting(const BldatmanInputSetting&) = delete;
+    BldatmanInputSetting& operator=(const BldatmanInputSetting&) = delete;
 
     /// Reads the four subcommands and the case values, then converts. 0: done; 1: failed, and reported on the standard
     /// error stream.
@@ -30,21 +37,14 @@ public:
     int getSubcommand(int number);
 
 private:
-    using MeasurementLevel = QUVO_Variable_Enumerations::MeasurementLevel;
-
     // The readers of the four subcommands; defined in settings_reader.cpp.
     bool get_Subcommand_Global();
     bool getVariables(const SubComObj& global);
     bool getWith(const SubComObj& global);
-    std::optional<std::vector<int>> validatedPositions(const char* parameter, const ParamObj& list,
-                                                       const SubComObj& global);
-    std::optional<MeasurementLevel> firstLevelNotScale(const char* parameter, const std::vector<int>& positions);
     void readColumns(const std::vector<int>& indices, std::vector<Column>& columns);
-
     void getCriteria();
     void getPlot();
     void getPrint();
-    void getSort(const SubComObj& print, BldatmanPrintSubcommand& read) const;
 
     void convertSettings();
 
@@ -57,7 +57,7 @@ private:
     CommandSpec& commandSpec_;
     CommandDescriptor& commandDescriptor_;
     ProcedureDataSource& dataSource_;
-    ParserMessage parserMessage_;
+    std::unique_ptr<ParserMessage> parserMessage_;  ///< never null
     BldatmanVariableSetting variableSetting_;
     BldatmanCriteriaSetting criteriaSetting_;
     BldatmanPrintSetting printSetting_;

@@ -1,12 +1,16 @@
 // The four subcommand readers of the settings. The order of the host calls is part of what is promised here: a host
 // that traces them sees each subcommand's keywords asked for in this order.
+#include "host/command_parser.h"
+#include "host/procedure.h"
 #include "module/data/case_reader.h"
 #include "module/diagnostics.h"
 #include "module/settings/input_setting.h"
 #include "module/settings/keyword_reader.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
+#include <vector>
 
 namespace bldatman {
 
@@ -19,6 +23,55 @@ std::vector<std::string> readNames(const ParamObj* list)
         list->getStringList(names);
     }
     return names;
+}
+
+/// The positions of the listed variables in the data source; nothing, and a line, when the host does not know one.
+std::optional<std::vector<int>> validatedPositions(const char* parameter, const ParamObj& list, const SubComObj& global,
+                                                   const CommandDescriptor& descriptor, ProcedureDataSource& source)
+{
+    std::vector<QuvoVarName> variables;
+    list.getVarList(variables);
+    VarSpecObj validator(parameter, global.getSubComExtName(), descriptor, &source, true);
+    if (!validator.ValidateVariables(variables, UPSpecTypes::RepeatVarAllowed)) {
+        reportLine("get_Subcommand_Global: Error during ValidateVariables.");
+        return std::nullopt;
+    }
+    return validator.GetValidVarList();
+}
+
+/// The level of the first variable that is not scale, of which the host is told; nothing when all are.
+std::optional<QUVO_Variable_Enumerations::MeasurementLevel> firstLevelNotScale(const char* parameter,
+                                                                               const std::vector<int>& positions,
+                                                                               ProcedureDataSource& source,
+                                                                               ParserMessage& message)
+{
+    for (const int position : positions) {
+        const QUVO_Variable& variable = source.GetVariable(position);
+        const auto level = variable.GetMeasurementLevel();
+        if (level != QUVO_Variable_Enumerations::LevelScale) {
+            message.NeedDepVarCont(QuvoVarName(variable.GetName()), parameter, nullptr);
+            return level;
+        }
+    }
+    return std::nullopt;
+}
+
+/// SORT with its qualifiers; without SORT the key and "NA" stay.
+void readSort(const SubComObj& print, const CommandDescriptor& descriptor, BldatmanPrintSubcommand& read)
+{
+    const ParamObj* sort = print.getParamObj("SORT");
+    if (sort == nullptr) {
+        return;
+    }
+    const SubComDescriptor* printDescription = descriptor.getSubComDesc("PRINT");
+    const ParamDescriptor* sortDescription =
+        printDescription != nullptr ? printDescription->getParamDesc("SORT") : nullptr;
+    std::vector<ParamObj> qualifiers;
+    if (sortDescription == nullptr || !sort->getStringQualList(qualifiers, *sortDescription, nullptr)) {
+        return;
+    }
+    read.sortBy = readKeyword(ParamObj::getParamObj("BY", qualifiers), "MEASUREMENT", LetterCase::Upper);
+    read.descending = readKeyword(ParamObj::getParamObj("DESCENDING", qualifiers), "TRUE", LetterCase::Upper);
 }
 
 }  // namespace
@@ -39,11 +92,12 @@ bool BldatmanInputSetting::getVariables(const SubComObj& global)
 {
     variableSubcommand_.variableNames = readNames(global.getParamObj("VARIABLE"));
     const ParamObj* list = global.getParamObj("VARIABLE");
-    const auto positions = list != nullptr ? validatedPositions("VARIABLE", *list, global) : std::nullopt;
+    const auto positions =
+        list != nullptr ? validatedPositions("VARIABLE", *list, global, commandDescriptor_, dataSource_) : std::nullopt;
     if (!positions) {
         return false;
     }
-    if (const auto level = firstLevelNotScale("VARIABLE", *positions)) {
+    if (const auto level = firstLevelNotScale("VARIABLE", *positions, dataSource_, *parserMessage_)) {
         reportLine("get_Subcommand_Global: variable.GetMeasurementLevel(). " + std::to_string(*level));
         return false;
     }
@@ -62,42 +116,13 @@ bool BldatmanInputSetting::getWith(const SubComObj& global)
         variableSubcommand_.withColumns = variableSubcommand_.variableColumns;
         return true;
     }
-    const auto positions = validatedPositions("WITH", *list, global);
-    if (!positions || firstLevelNotScale("WITH", *positions).has_value()) {
+    const auto positions = validatedPositions("WITH", *list, global, commandDescriptor_, dataSource_);
+    if (!positions || firstLevelNotScale("WITH", *positions, dataSource_, *parserMessage_).has_value()) {
         return false;
     }
     withIndices_ = *positions;
     readColumns(withIndices_, variableSubcommand_.withColumns);
     return true;
-}
-
-/// The positions of the listed variables in the data source; nothing, and a line, when the host does not know one.
-std::optional<std::vector<int>> BldatmanInputSetting::validatedPositions(const char* parameter, const ParamObj& list,
-                                                                         const SubComObj& global)
-{
-    std::vector<QuvoVarName> variables;
-    list.getVarList(variables);
-    VarSpecObj validator(parameter, global.getSubComExtName(), commandDescriptor_, &dataSource_, true);
-    if (!validator.ValidateVariables(variables, UPSpecTypes::RepeatVarAllowed)) {
-        reportLine("get_Subcommand_Global: Error during ValidateVariables.");
-        return std::nullopt;
-    }
-    return validator.GetValidVarList();
-}
-
-/// The level of the first variable that is not scale, of which the host is told; nothing when all are.
-std::optional<QUVO_Variable_Enumerations::MeasurementLevel> BldatmanInputSetting::firstLevelNotScale(
-    const char* parameter, const std::vector<int>& positions)
-{
-    for (const int position : positions) {
-        const QUVO_Variable& variable = dataSource_.GetVariable(position);
-        const MeasurementLevel level = variable.GetMeasurementLevel();
-        if (level != QUVO_Variable_Enumerations::LevelScale) {
-            parserMessage_.NeedDepVarCont(QuvoVarName(variable.GetName()), parameter, nullptr);
-            return level;
-        }
-    }
-    return std::nullopt;
 }
 
 void BldatmanInputSetting::readColumns(const std::vector<int>& indices, std::vector<Column>& columns)
@@ -146,29 +171,11 @@ void BldatmanInputSetting::getPrint()
     BldatmanPrintSubcommand read;
     read.details = presence(print->getParamObj("DETAILS"));
     read.rows = static_cast<std::uint16_t>(readInteger(print->getParamObj("ROWS"), 10));
-    getSort(*print, read);
+    readSort(*print, commandDescriptor_, read);
     read.agreement = presence(print->getParamObj("AGREEMENT"));
     read.meanDiff = presence(print->getParamObj("MEANDIFF"));
     read.percentage = readKeyword(print->getParamObj("PERCENTAGE"), "TRUE", LetterCase::Upper);
     printSubcommand_ = read;
-}
-
-/// SORT with its qualifiers; without SORT the key and "NA" stay.
-void BldatmanInputSetting::getSort(const SubComObj& print, BldatmanPrintSubcommand& read) const
-{
-    const ParamObj* sort = print.getParamObj("SORT");
-    if (sort == nullptr) {
-        return;
-    }
-    const SubComDescriptor* printDescription = commandDescriptor_.getSubComDesc("PRINT");
-    const ParamDescriptor* sortDescription =
-        printDescription != nullptr ? printDescription->getParamDesc("SORT") : nullptr;
-    std::vector<ParamObj> qualifiers;
-    if (sortDescription == nullptr || !sort->getStringQualList(qualifiers, *sortDescription, nullptr)) {
-        return;
-    }
-    read.sortBy = readKeyword(ParamObj::getParamObj("BY", qualifiers), "MEASUREMENT", LetterCase::Upper);
-    read.descending = readKeyword(ParamObj::getParamObj("DESCENDING", qualifiers), "TRUE", LetterCase::Upper);
 }
 
 }  // namespace bldatman

@@ -22,7 +22,7 @@ public:
     /// The text of a key with the first "^1" replaced by `arg1`, and then the first "^2" of the outcome by `arg2`, both
     /// inserted as they are. When the language has no table, or its table has no such key, the result is the key
     /// itself, placeholders included: there is no fallback to another language.
-    std::string getText(const std::string& key, const std::string& arg1, const std::string& arg2) const;
+    std::string getText(const std::string& key, const std::string& arg1 = {}, const std::string& arg2 = {}) const;
 
 private:
     using Texts = std::map<std::string, std::string>;

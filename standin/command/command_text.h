@@ -6,7 +6,6 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace standin {
 
@@ -46,11 +45,5 @@ public:
 private:
     std::size_t offset_;
 };
-
-/// Cuts the text of a command file into its commands, each from its first token to the semicolon that closes it. Empty
-/// commands are dropped.
-/// @throws InputError  naming file, line and reason: a quote that is not closed, a last command that is not closed, no
-///         command at all
-std::vector<CommandText> cutCommands(const std::string& text, const std::string& fileName);
 
 }  // namespace standin

@@ -1,7 +1,7 @@
 #include "standin/command/token_reader.h"
 
-#include "standin/nearest.h"
-#include "standin/text.h"
+#include "text/near_misses.h"
+#include "text/wording.h"
 
 namespace standin {
 
@@ -15,9 +15,9 @@ std::string found(const Token& token)
     case Token::Kind::End:
         return "found the end of the command";
     case Token::Kind::Quoted:
-        return "found the quoted text " + inQuotes(token.text);
+        return "found the quoted text " + text::inQuotes(token.text);
     default:
-        return "found " + inQuotes(token.text);
+        return "found " + text::inQuotes(token.text);
     }
 }
 
@@ -44,7 +44,7 @@ bool TokenReader::takeIf(std::string_view symbol)
 void TokenReader::expect(std::string_view symbol)
 {
     if (!takeIf(symbol)) {
-        fail(peek(), "expected " + inQuotes(symbol));
+        fail(peek(), "expected " + text::inQuotes(symbol));
     }
 }
 
@@ -59,7 +59,7 @@ void TokenReader::failWithChoice(const Token& token, const std::vector<std::stri
         fail(token, "expected nothing more");
     }
     std::string expected = choice.size() == 1 ? "expected " : "expected one of ";
-    const std::vector<std::string> ordered = nearestFirst(token.text, choice);
+    const std::vector<std::string> ordered = text::nearestFirst(token.text, choice);
     for (std::size_t i = 0; i < ordered.size() && i < mostChoicesShown; ++i) {
         expected += (i > 0 ? ", " : "") + ordered[i];
     }

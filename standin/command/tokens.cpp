@@ -1,8 +1,8 @@
 #include "standin/command/tokens.h"
 
 #include "standin/command/command_text.h"
-#include "standin/unicode.h"
-#include "standin/utf8.h"
+#include "text/unicode.h"
+#include "text/utf8.h"
 
 #include <algorithm>
 
@@ -79,14 +79,14 @@ private:
 
 void requireWellFormed(const std::string& text)
 {
-    if (const auto bad = firstBadUtf8Byte(text)) {
+    if (const auto bad = text::firstBadUtf8Byte(text)) {
         throw CommandError(*bad, "a byte here is not UTF-8");
     }
 }
 
 bool isNameCharacter(char32_t character)
 {
-    return isLetterOrDigit(character) || (character < 0x80 && contains("_.$@", static_cast<char>(character)));
+    return text::isLetterOrDigit(character) || (character < 0x80 && contains("_.$@", static_cast<char>(character)));
 }
 
 }  // namespace
@@ -105,7 +105,7 @@ std::vector<Token> tokenize(const std::string& text, std::size_t begin, std::siz
 bool isBareName(std::string_view text)
 {
     for (std::size_t i = 0; i < text.size();) {
-        const CodePoint character = codePointAt(text, i);
+        const text::CodePoint character = text::codePointAt(text, i);
         if (!isNameCharacter(character.value)) {
             return false;
         }

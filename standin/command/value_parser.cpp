@@ -1,7 +1,7 @@
 #include "standin/command/value_parser.h"
 
-#include "standin/number_reader.h"
-#include "standin/text.h"
+#include "text/numbers.h"
+#include "text/wording.h"
 
 #include <algorithm>
 #include <charconv>
@@ -32,8 +32,8 @@ KeywordText parseKeyword(TokenReader& reader, const ParameterDescription& descri
     if (readable && description.values.empty()) {
         return {reader.take().text, literal};
     }
-    const auto allowed = std::ranges::find(description.values, upperCase(token.text),
-                                           [](const std::string& value) { return upperCase(value); });
+    const auto allowed = std::ranges::find(description.values, text::upperCase(token.text),
+                                           [](const std::string& value) { return text::upperCase(value); });
     if (!readable || allowed == description.values.end()) {
         TokenReader::failWithChoice(token, description.values);
     }
@@ -54,7 +54,7 @@ void requireWithinBounds(const Token& token, double number, const ParameterDescr
 double parseNumber(TokenReader& reader, const ParameterDescription& description)
 {
     const Token& token = reader.peek();
-    const auto number = reader.atWord() ? readNumber(token.text) : std::nullopt;
+    const auto number = reader.atWord() ? text::readNumber(token.text) : std::nullopt;
     if (!number) {
         TokenReader::fail(token, "expected a number for " + description.name);
     }

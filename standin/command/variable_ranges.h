@@ -2,7 +2,7 @@
 #pragma once
 
 #include "standin/command/parsed_command.h"
-#include "standin/data_set.h"
+#include "standin/data/data_set.h"
 
 #include <string>
 #include <vector>

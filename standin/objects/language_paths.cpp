@@ -1,7 +1,7 @@
 #include "host/language_paths.h"
 
-#include "standin/host_call.h"
-#include "standin/session.h"
+#include "standin/border/host_call.h"
+#include "standin/session/session.h"
 
 #include <cstring>
 #include <utility>

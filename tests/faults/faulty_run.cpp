@@ -1,8 +1,8 @@
 #include "tests/faults/faulty_run.h"
 
 #include "module/entry/entry_point.h"
-#include "standin/csv_reader.h"
-#include "standin/session.h"
+#include "runner/input/csv_reader.h"
+#include "standin/session/session.h"
 #include "tests/faults/event_log.h"
 #include "tests/faults/module_memory.h"
 
@@ -45,7 +45,7 @@ Run runOf(const Command& command, const Fault& fault)
     run.allocations.reserve(moreThanAnyRunMakes);
     standin::Session session;
     session.setLanguage(command.language);
-    session.dataSet = standin::readCsv(data, "data.csv");
+    session.dataSet = runner::readCsv(data, "data.csv");
     session.command = standin::singleCommand(command.text());
     EventLog log;
     session.monitor.traceTo(&log.stream());

@@ -1,6 +1,6 @@
 #include "tests/faults/module_memory.h"
 
-#include "standin/call_monitor.h"
+#include "standin/session/call_monitor.h"
 
 #include <cstddef>
 #include <cstdlib>

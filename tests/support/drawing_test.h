@@ -1,7 +1,7 @@
 // For tests that look at pictures.
 #pragma once
 
-#include "standin/drawing/child_process.h"
+#include "report/drawing/child_process.h"
 
 #include <gtest/gtest.h>
 
@@ -13,8 +13,8 @@ protected:
     void SetUp() override
     {
         try {
-            standin::runProgram({"gnuplot", "--version"}, "", [](std::string_view) {});
-        } catch (const standin::ProcessError& error) {
+            report::runProgram({"gnuplot", "--version"}, "", [](std::string_view) {});
+        } catch (const report::ProcessError& error) {
             GTEST_SKIP() << error.what();
         }
     }

@@ -1,6 +1,6 @@
 #include "tests/support/json_text.h"
 
-#include "standin/json_writer.h"
+#include "text/json_writer.h"
 
 #include <rapidjson/stringbuffer.h>
 
@@ -9,7 +9,7 @@ namespace tests {
 std::string json(const rapidjson::Value& value)
 {
     rapidjson::StringBuffer buffer;
-    standin::JsonWriter<rapidjson::StringBuffer> writer(buffer);
+    text::JsonWriter<rapidjson::StringBuffer> writer(buffer);
     value.Accept(writer);
     return buffer.GetString();
 }

@@ -1,6 +1,6 @@
 #include "tests/support/traced_session.h"
 
-#include "standin/csv_reader.h"
+#include "runner/input/csv_reader.h"
 
 #include <algorithm>
 
@@ -40,7 +40,7 @@ long fallibleCallsUpTo(const std::vector<std::string>& trace, const std::string&
 
 TracedSession::TracedSession(const std::string& csv)
 {
-    session.dataSet = standin::readCsv(withLineEnds(csv), "test.csv");
+    session.dataSet = runner::readCsv(withLineEnds(csv), "test.csv");
     session.monitor.traceTo(&trace_);
 }
 

@@ -1,7 +1,7 @@
 // A session with data whose host calls are traced.
 #pragma once
 
-#include "standin/session.h"
+#include "standin/session/session.h"
 
 #include <sstream>
 #include <string>

@@ -1,0 +1,43 @@
+// One statement of a chart's description, read into a tree.
+//
+//     statement  = kind ":" [ variable "=" ] expression
+//     expression = call | product | name | number | text
+//     call       = name "(" [ expression { "," expression } ] ")"
+//     product    = name "*" name { "*" name }
+//     text       = '"' characters '"', alone in its call
+//
+// Nothing is escaped in a text, so a quote may be part of it: a text ends at the first quote after which its call is
+// closed and either the statement ends as well or another call follows as the next argument.
+#pragma once
+
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace report {
+
+struct GplExpression {
+    enum class Kind { Name, Number, Text, Call, Product };
+
+    Kind kind = Kind::Name;
+    std::string text;                      ///< the name, the digits, the text, or the name of what is called
+    std::vector<GplExpression> arguments;  ///< of a call, or the factors of a product
+};
+
+struct GplStatement {
+    std::string kind;      ///< "SOURCE", "DATA", "GRAPH", "GUIDE", "ELEMENT"; whatever stands before the colon
+    std::string variable;  ///< what the expression is assigned to; may be empty
+    GplExpression expression;
+};
+
+/// A statement that cannot be read; `what()` says at which column (in bytes, from 1), what is there and what should be.
+class GplError : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// @throws GplError
+GplStatement parseGplStatement(std::string_view statement);
+
+}  // namespace report

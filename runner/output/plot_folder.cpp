@@ -1,0 +1,104 @@
+#include "runner/output/plot_folder.h"
+
+#include "report/document/document_view.h"
+#include "runner/output/output_file.h"
+#include "runner/platform/paths.h"
+#include "text/unicode.h"
+#include "text/utf8.h"
+
+#include <algorithm>
+#include <string_view>
+#include <system_error>
+
+namespace runner {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+/// The title with what has no place in the name of a file replaced, and cut where names of files have to end.
+std::string fileNameFor(std::string_view title)
+{
+    constexpr std::size_t longest = 120;
+    std::string name;
+    for (std::size_t i = 0; i < title.size() && name.size() < longest;) {
+        const text::CodePoint character = text::codePointAt(title, i);
+        if (text::isLetterOrDigit(character.value)) {
+            name += title.substr(i, character.length);
+        } else if (!name.empty() && name.back() != '-') {
+            name += '-';
+        }
+        i += character.length;
+    }
+    return name.substr(0, name.find_last_not_of('-') + 1);
+}
+
+std::string padded(std::size_t number, std::size_t largest)
+{
+    const std::string digits = std::to_string(number);
+    const std::size_t width = std::to_string(largest).size();
+    return std::string(width - digits.size(), '0') + digits;
+}
+
+struct PlotFile {
+    fs::path file;
+    const report::Picture* picture;
+
+    bool isDrawn() const { return !picture->svg.empty(); }
+};
+
+std::vector<PlotFile> plotFilesOf(const report::Report& report, const fs::path& folder)
+{
+    const auto graphs = report::graphsOf(report.documents);
+    std::vector<PlotFile> plots;
+    for (const rapidjson::Value* graph : graphs) {
+        const std::string number = padded(plots.size() + 1, graphs.size());
+        plots.push_back({folder / pathOf(number + "-" + fileNameFor(report::titleOf(*graph)) + ".svg"),
+                         &report.pictures.pictureOf(*graph)});
+    }
+    return plots;
+}
+
+void makeFolder(const fs::path& folder)
+{
+    std::error_code error;
+    fs::create_directories(folder, error);
+    if (error) {
+        throw OutputError(shown(folder) + ": cannot be made: " + reasonOf(error));
+    }
+}
+
+void writePlot(const PlotFile& plot)
+{
+    if (!plot.isDrawn()) {
+        throw OutputError(shown(plot.file) + ": cannot be drawn: " + plot.picture->reason);
+    }
+    OutputFile output(plot.file);
+    output.write("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n" + plot.picture->svg + "\n");
+    output.commit();
+}
+
+}  // namespace
+
+std::vector<std::string> writePlotFiles(const report::Report& report, const fs::path& folder)
+{
+    const std::vector<PlotFile> plots = plotFilesOf(report, folder);
+    try {
+        if (std::ranges::any_of(plots, &PlotFile::isDrawn)) {
+            makeFolder(folder);
+        }
+    } catch (const OutputError& error) {
+        return {error.what()};
+    }
+    std::vector<std::string> failures;
+    for (const PlotFile& plot : plots) {
+        try {
+            writePlot(plot);
+        } catch (const OutputError& error) {
+            failures.emplace_back(error.what());
+        }
+    }
+    return failures;
+}
+
+}  // namespace runner

@@ -1,0 +1,39 @@
+// The active data set of a session: variables in data-set order, each with one value per case.
+#pragma once
+
+#include "host/data_source.h"
+#include "host/missing_value.h"
+
+#include <cstddef>
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace standin {
+
+/// The first cell of a variable that is neither a number nor missing.
+struct TextCell {
+    std::size_t line;  ///< of the data file, from 1
+    std::string text;
+};
+
+struct Variable {
+    std::string name;   ///< UTF-8, not empty
+    std::string label;  ///< empty: none
+    QUVO_Variable_Enumerations::MeasurementLevel level = QUVO_Variable_Enumerations::LevelScale;
+    std::map<double, std::string> valueLabels;
+    std::vector<double> values;         ///< one per case; texts as codes 1, 2, ... in the order of their appearance
+    std::optional<TextCell> firstText;  ///< set where the cells are not all numbers: such a variable cannot be analysed
+};
+
+struct DataSet {
+    std::vector<Variable> variables;  ///< names are unique
+    std::size_t caseCount = 0;        ///< the length of every `values`
+
+    /// The position of the variable of exactly that name.
+    std::optional<std::size_t> find(std::string_view name) const;
+};
+
+}  // namespace standin

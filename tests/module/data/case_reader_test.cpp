@@ -1,0 +1,146 @@
+#include "module/data/case_reader.h"
+
+#include "host/missing_value.h"
+#include "module/data/data_access.h"
+#include "runner/input/dictionary.h"
+#include "tests/support/captured_errors.h"
+#include "tests/support/traced_session.h"
+
+#include <gmock/gmock.h>
+
+#include <sstream>
+#include <stdexcept>
+
+namespace bldatman {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+using Columns = std::vector<std::vector<double>>;
+
+TEST(CaseReader, GivesAColumnPerVariableInCaseOrderWithMissingValuesAsDelivered)
+{
+    tests::TracedSession host("a,b,c;1,2,x;.,4,y;5,6,x");
+    ProcedureDataSource source;
+    Columns columns;
+    readCaseColumns({1, 0}, source, columns);
+    EXPECT_THAT(columns, ElementsAre(ElementsAre(2, 4, 6), ElementsAre(1, systemMissingValue, 5)));
+    readCaseColumns({2}, source, columns);
+    EXPECT_THAT(columns[0], ElementsAre(2, 4, 6, 1, 2, 1)) << "values are appended to what is there";
+}
+
+TEST(CaseReader, GivesNoColumnsForAnEmptyDataSetAndSkipsUnknownIndices)
+{
+    tests::TracedSession empty("a,b");
+    Columns columns;
+    {
+        ProcedureDataSource source;
+        readCaseColumns({0, 1}, source, columns);
+        EXPECT_THAT(columns, IsEmpty());
+    }
+    tests::TracedSession host("a,b;1,2");
+    ProcedureDataSource source;
+    readCaseColumns({7, 1, -1}, source, columns);
+    EXPECT_THAT(columns, ElementsAre(ElementsAre(2)));
+}
+
+TEST(CaseReader, DescribesEachVariableByItsLevelAndLabel)
+{
+    tests::TracedSession host("a,b,c,d;1,2,x,3;3,4,y,1");
+    runner::applyDictionary(host.session.dataSet,
+                            R"({"variables": {"a": {"label": "First"}, "b": {"level": "ordinal", "valueLabels": {"2":
+                                "low", "4": "high", "6": "top"}}}})",
+                            "d.json");
+    ProcedureDataSource source;
+    AlgoDataAccessFactory factory;
+    const AlgoDataAccess& access = factory.createDataAccess({0, 1, 2, 3, 0}, source, {true, true, true});
+    std::ostringstream description;
+    access.getVarList().display(description);
+    EXPECT_EQ(description.str(), "Start Variable List Display\n\n"
+                                 "Variable 0, name a, label First, continuous\n"
+                                 "Variable 1, name b, label b, ordinal, 3 levels, continuous\n"
+                                 "Variable 2, name c, label c, nominal, 2 levels, ordinal, 2 levels, continuous\n"
+                                 "Variable 3, name d, label d, continuous\n"
+                                 "Frequency Weight is not defined\n\nEnd Variable List Display\n");
+    ASSERT_TRUE(access.getIterator().HasMore());
+    EXPECT_EQ(access.getIterator().Next()->Size(), 5) << "the host still delivers the repeated variable";
+    EXPECT_EQ(&factory.createDataAccess({0}, source, {true, true, true}), &access);
+}
+
+TEST(CaseReader, SkipsAColumnThatTheDataDoNotHave)
+{
+    const tests::TracedSession host("a,b;1,2;3,4");
+    ProcedureDataSource source;
+    Columns columns;
+    readCaseColumns({2, 1, -1}, source, columns);
+    EXPECT_THAT(columns, ElementsAre(ElementsAre(2, 4)));
+}
+
+TEST(CaseReader, MakesItsHostObjectsInOrderAndReleasesThemUsersFirst)
+{
+    tests::TracedSession host("a,b;1,2");
+    ProcedureDataSource source;
+    host.takeTrace();
+    Columns columns;
+    readCaseColumns({0, 1}, source, columns);
+    const auto calls = tests::callsOf(host.takeTrace(), {""});
+    const std::vector<std::string> expected = {
+        "ACAVarValidSpecs::ACAVarValidSpecs [true,true,true]",
+        "QUVO_DataSource::ColumnCount []",
+        "QUVO_DataSource::GetVariable [0]",
+        "QUVO_Variable::QUVO_Variable []",
+        "QUVO_Variable::GetMeasurementLevel []",
+        "QUVO_Variable::GetName []",
+        "QUVO_Variable::GetLabel []",
+        "ACAVarValidSpecs::AddVariable [0,false,true,true,true]",
+        "QUVO_Variable::~QUVO_Variable []",
+        "QUVO_DataSource::GetVariable [1]",
+        "QUVO_Variable::QUVO_Variable []",
+        "QUVO_Variable::GetMeasurementLevel []",
+        "QUVO_Variable::GetName []",
+        "QUVO_Variable::GetLabel []",
+        "ACAVarValidSpecs::AddVariable [1,false,true,true,true]",
+        "QUVO_Variable::~QUVO_Variable []",
+        "ACAInputAdapter::ACAInputAdapter []",
+        "ACAProcDataSourceIter::ACAProcDataSourceIter [true]",
+        "RecKit::RecordIterator::HasMore []",
+        "RecKit::RecordIterator::Next []",
+        "RecKit::Record::Size []",
+        "RecKit::Record::GetAll []",
+        "RecKit::RecordIterator::HasMore []",
+        "ACAProcDataSourceIter::~ACAProcDataSourceIter []",
+        "ACAInputAdapter::~ACAInputAdapter []",
+        "ACAVarValidSpecs::~ACAVarValidSpecs []",
+    };
+    EXPECT_THAT(calls, testing::ElementsAreArray(expected));
+}
+
+/// Reads two cases of one variable with the n-th fallible call failing.
+std::string readWithFailure(long call, const std::function<void()>& raise, Columns& columns)
+{
+    tests::TracedSession host("a;1;2");
+    ProcedureDataSource source;
+    host.session.monitor.failAtCall(call, raise);
+    const tests::CapturedErrors errors;
+    readCaseColumns({0}, source, columns);
+    return errors.text();
+}
+
+TEST(CaseReader, ReportsAnErrorAndKeepsTheCasesReadBeforeIt)
+{
+    constexpr long secondHasMore = 15;
+    Columns columns;
+    EXPECT_EQ(readWithFailure(
+                  secondHasMore, [] { throw std::runtime_error("disk gone"); }, columns),
+              "Standard exception: disk gone\n");
+    EXPECT_THAT(columns, ElementsAre(ElementsAre(1)));
+    columns.clear();
+    EXPECT_EQ(readWithFailure(
+                  1, [] { throw 1; }, columns),
+              "Unknown exception occurred.\n");
+    EXPECT_THAT(columns, IsEmpty());
+}
+
+}  // namespace
+}  // namespace bldatman

@@ -1,0 +1,189 @@
+// What the host's parser objects hand to the module for a command.
+#include "host/command_parser.h"
+
+#include "host/procedure.h"
+#include "standin/session/session.h"
+#include "tests/support/traced_session.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace standin {
+namespace {
+
+using namespace UPSpecTypes;
+using Texts = std::vector<std::string>;
+
+class ParsedCommand : public testing::Test {
+protected:
+    ParsedCommand()
+    {
+        host_.session.dataSet.variables[3].level = QUVO_Variable_Enumerations::LevelOrdinal;
+        host_.session.dataSet.variables[4].level = QUVO_Variable_Enumerations::LevelScale;
+        SubComDescriptor leading("", SubComSpec1, false, false);
+        ParamDescriptor variables("INPUT", VariableList, true, true, VariableListBracket);
+        variables.setParamRequired(false);
+        leading.addParamDesc(variables);
+        description_.addSubComDesc(leading);
+        SubComDescriptor set("SET", SubComSpec2, false, false);
+        for (const ParamSpec kind : {KeywordValue, KeywordOrLiteral, Number, Integer, BareKeyword}) {
+            ParamDescriptor parameter("P" + std::to_string(kind), kind, false, true, NoBracket);
+            parameter.setValueRequired(false);
+            set.addParamDesc(parameter);
+            parameter.addStringValue("too late, the subcommand has its own copy");
+        }
+        ParamDescriptor sort("SORT", QualifierList, false, false, NoBracket);
+        sort.addQualifDesc(ParamDescriptor("BY", KeywordValue, false, false, NoBracket));
+        set.addParamDesc(sort);
+        description_.addSubComDesc(set);
+    }
+
+    int parse(const std::string& text)
+    {
+        host_.session.command = singleCommand(text);
+        QUVO_TokenSequence tokens(true);
+        return UniversalParser(tokens, command_, description_).getCommandSpecifications();
+    }
+
+    /// What each getter that has a value for a parameter gives.
+    std::string valuesOf(const ParamObj* parameter) const
+    {
+        if (parameter == nullptr) {
+            return "none";
+        }
+        std::string result;
+        std::string text;
+        bool isLiteral = false;
+        int integer = 0;
+        double number = 0;
+        Texts names;
+        std::vector<ParamObj> qualifiers;
+        const ParamDescriptor* sort = description_.getSubComDesc("SET")->getParamDesc("SORT");
+        result += parameter->getUpStringGeneric(text) ? "upper " + text : "";
+        result += parameter->getStringOrLiteral(text, isLiteral) ? (isLiteral ? " literal " : " keyword ") + text : "";
+        result += parameter->getIntegerValue(integer) ? "integer " + std::to_string(integer) : "";
+        result += parameter->getNumberValue(number) ? "number " + std::to_string(number) : "";
+        result += parameter->getStringList(names) ? "names" : "";
+        result += parameter->getStringQualList(qualifiers, *sort, nullptr)
+                      ? "BY: " + valuesOf(ParamObj::getParamObj("BY", qualifiers))
+                      : "";
+        return result;
+    }
+
+    std::string valuesOf(const std::string& name) const
+    {
+        return valuesOf(command_.getSubComObj("SET")->getParamObj(name));
+    }
+
+    /// Parses a list of variables and has it validated.
+    bool validate(const std::string& list)
+    {
+        EXPECT_EQ(parse("INPUT=" + list), 0);
+        const ParamObj* input = command_.getSubComObj("")->getParamObj("INPUT");
+        std::vector<QuvoVarName> variables{QuvoVarName("left over")};
+        EXPECT_TRUE(input->getStringList(names_) && input->getVarList(variables));
+        EXPECT_EQ(names_.size(), variables.size());
+        VarSpecObj validator("INPUT", "", description_, &source_, true);
+        const bool valid = validator.ValidateVariables(variables, RepeatVarAllowed);
+        positions_ = validator.GetValidVarList();
+        return valid;
+    }
+
+    tests::TracedSession host_{"wright1,group,mini1,mini2,noted;1,1,2,3,4;;5,x,6,7,NA;8,y,9,1,n/a"};
+    const Texts& complaints_ = host_.session.complaints;
+    ProcedureDataSource source_;
+    CommandDescriptor description_{"WIDGET"};
+    CommandSpec command_;
+    Texts names_{"left over"};
+    std::vector<int> positions_;
+};
+
+TEST_F(ParsedCommand, GivesEachValueThroughTheGettersOfItsKind)
+{
+    ASSERT_EQ(parse("INPUT=mini1 SET(P3=Mixed P4=\"Mixed\" P7=2.5 P9=-3 P0 SORT(BY=mean))"), 0);
+    EXPECT_EQ(valuesOf("P3"), "upper MIXED keyword Mixed");
+    EXPECT_EQ(valuesOf("P4"), "upper MIXED literal Mixed");
+    EXPECT_EQ(valuesOf("P7"), "number 2.500000");
+    EXPECT_EQ(valuesOf("P9"), "integer -3");
+    EXPECT_EQ(valuesOf("P0"), "");
+    EXPECT_EQ(valuesOf("SORT"), "BY: upper MEAN keyword mean");
+    EXPECT_EQ(command_.getSubComObj("SET")->getSubComExtName(), "SET");
+}
+
+TEST_F(ParsedCommand, GivesNothingForWhatStandsAloneOrNotAtAll)
+{
+    ASSERT_EQ(parse("INPUT=mini1 SET(P3 P9 SORT)"), 0);
+    EXPECT_EQ(valuesOf("P3"), "");
+    EXPECT_EQ(valuesOf("P9"), "");
+    EXPECT_EQ(valuesOf("SORT"), "BY: none");
+    EXPECT_EQ(valuesOf("P4"), "none");
+    EXPECT_EQ(command_.getSubComObj("LOCK"), nullptr);
+}
+
+TEST_F(ParsedCommand, ExpandsARangeAlikeInNamesAndVariables)
+{
+    EXPECT_TRUE(validate("mini1 wright1:mini1 mini2:mini2"));
+    EXPECT_EQ(names_, (Texts{"mini1", "wright1", "group", "mini1", "mini2"}));
+    EXPECT_EQ(positions_, (std::vector{2, 0, 1, 2, 3}));
+    EXPECT_EQ(complaints_, Texts());
+}
+
+TEST_F(ParsedCommand, LeavesARangeWithAnUnknownEndToTheValidator)
+{
+    EXPECT_FALSE(validate("wright1:mini3 last:first"));
+    EXPECT_EQ(names_, (Texts{"wright1", "mini3", "last", "first"}));
+    EXPECT_EQ(complaints_,
+              (Texts{"variable \"mini3\" in INPUT does not exist; did you mean \"mini1\" or \"mini2\"?",
+                     "variable \"last\" in INPUT does not exist", "variable \"first\" in INPUT does not exist"}));
+}
+
+TEST_F(ParsedCommand, HasARangeThatRunsBackwardsRefusedWithItsReason)
+{
+    EXPECT_FALSE(validate("mini2 mini2:wright1"));
+    EXPECT_EQ(names_, (Texts{"mini2", "mini2", "wright1"}));
+    EXPECT_EQ(complaints_, (Texts{"INPUT: the range mini2:wright1 runs backwards: wright1 stands before mini2 "
+                                  "in the data"}));
+}
+
+TEST_F(ParsedCommand, MatchesNamesByteForByteButHintsAtOtherSpellings)
+{
+    EXPECT_FALSE(validate("Mini2 wrigth1 mini1"));
+    EXPECT_EQ(complaints_, (Texts{"variable \"Mini2\" in INPUT does not exist; did you mean \"mini2\" or \"mini1\"?",
+                                  "variable \"wrigth1\" in INPUT does not exist; did you mean \"wright1\"?"}));
+}
+
+TEST_F(ParsedCommand, LeavesItToTheProcedureToMindTheLevel)
+{
+    EXPECT_TRUE(validate("group"));
+    ParserMessage message;
+    message.NeedDepVarCont(QuvoVarName("group"), "INPUT", nullptr);
+    message.NeedDepVarCont(QuvoVarName("mini2"), "INPUT", "(extra)");
+    EXPECT_EQ(
+        complaints_,
+        (Texts{
+            "variable \"group\" in INPUT is not numeric: line 4 of the data holds \"x\"; correct it, or leave the cell "
+            "empty where a value is missing",
+            "variable \"mini2\" in INPUT is ordinal; it must be scale here: if it is one, give it "
+            "\"level\": \"scale\" in the dictionary (extra)"}));
+}
+
+TEST_F(ParsedCommand, HasATextColumnThatIsDeclaredScaleRefused)
+{
+    EXPECT_FALSE(validate("noted"));
+    EXPECT_EQ(complaints_,
+              (Texts{"variable \"noted\" in INPUT is declared scale, but line 5 of the data holds \"n/a\"; "
+                     "correct it, or leave the cell empty where a value is missing"}));
+}
+
+TEST_F(ParsedCommand, TellsWhereAndWhyACommandIsRefused)
+{
+    EXPECT_NE(parse("INPUT=mini1\r\n\tSTE(P0);"), 0);
+    EXPECT_EQ(complaints_, (Texts{"line 2, column 2: found \"STE\", expected SET\n    \tSTE(P0);\n    \t^"}));
+    EXPECT_EQ(command_.getSubComObj(""), nullptr);
+    EXPECT_NE(parse("SET()"), 0);  // the later mark that INPUT is not required counts for nothing
+}
+
+}  // namespace
+}  // namespace standin
