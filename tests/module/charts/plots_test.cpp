@@ -5,8 +5,6 @@
 namespace {
 
 using testing::ElementsAre;
-using testing::ElementsAreArray;
-using tests::callsOf;
 using tests::Host;
 using tests::json;
 
@@ -26,61 +24,6 @@ std::vector<std::string> elements(const rapidjson::Value& graph)
     std::vector<std::string> texts = statements(graph);
     std::erase_if(texts, [](const std::string& text) { return !text.starts_with("ELEMENT"); });
     return texts;
-}
-
-TEST(OutputChart, WritesItsStatementsToTheCharacter)
-{
-    Host host(threeCases);
-    host.run("VARIABLE=A WITH=B PLOT(REFLINE AGREEMENT_LIMITS)");
-    std::vector<std::string> expected = {
-        R"gpl(SOURCE: s = userSource(id("Bland-Altman Plot of Differences (A-B)")))gpl"};
-    for (const std::string name :
-         {"xdata", "ydata", "xMinMax", "y0", "y1", "y2", "y3", "y4", "y5", "y6", "y7", "y8", "y9"}) {
-        expected.push_back("DATA: " + name + R"gpl( = col(source(s), name(")gpl" + name + R"gpl(")))gpl");
-    }
-    for (const std::string name : {"cref", "calimits", "cmean", "cMeanDiffCI", "crefALimitsCI"}) {
-        expected.push_back("DATA: " + name + R"gpl( = col(source(s), name(")gpl" + name +
-                           R"gpl("), unit.category()))gpl");
-    }
-    expected.insert(
-        expected.end(),
-        {"GRAPH: begin()", R"gpl(GUIDE: axis(dim(2),label("A-B")))gpl",
-         R"gpl(GUIDE: axis(dim(1),label("Mean of A and B")))gpl",
-         R"gpl(GUIDE: text.title(label("Bland-Altman Plot of Differences (A-B)")))gpl",
-         "ELEMENT: point.dodge.symmetric(position(xdata*ydata))", "ELEMENT: line(position(xMinMax*y0),color(cref))",
-         "ELEMENT: line(position(xMinMax*y2),color(calimits))", "ELEMENT: line(position(xMinMax*y5),color(calimits))",
-         "ELEMENT: line(position(xMinMax*y8),color(cmean))",
-         R"gpl(GUIDE: text.subsubfootnote(label(" Overlapping points are displayed using dodge to enhance )gpl"
-         R"gpl(visibility.")))gpl",
-         "GRAPH: end()"});
-    EXPECT_THAT(statements(host.object(0)), ElementsAreArray(expected));
-}
-
-TEST(OutputChart, DrawsTheLinesThatTheFlagsAskForInTheirOrder)
-{
-    Host host(threeCases);
-    host.run("VARIABLE=A WITH=B PLOT(REFLINE AGREEMENT_LIMITS=CI CI_MEANDIFF)");
-    const auto line = [](const std::string& y, const std::string& color, bool dashed) {
-        return "ELEMENT: line(position(xMinMax*" + y + "),color(" + color + ")" +
-               (dashed ? ", shape(shape.half_dash))" : ")");
-    };
-    auto drawn = elements(host.object(0));
-    drawn.erase(drawn.begin());
-    EXPECT_THAT(drawn, ElementsAre(line("y0", "cref", false), line("y2", "calimits", false),
-                                   line("y1", "crefALimitsCI", true), line("y3", "crefALimitsCI", true),
-                                   line("y5", "calimits", false), line("y4", "crefALimitsCI", true),
-                                   line("y6", "crefALimitsCI", true), line("y8", "cmean", false),
-                                   line("y7", "cMeanDiffCI", true), line("y9", "cMeanDiffCI", true)));
-    host.run("VARIABLE=A WITH=B");
-    EXPECT_EQ(elements(host.object(0)).size(), 2U);
-}
-
-TEST(OutputChart, InsertsTextsUnescaped)
-{
-    Host host(R"("a""b\",B;10,9;12,12)");
-    host.run(R"(VARIABLE="a""b\" WITH=B)");
-    EXPECT_EQ(statements(host.object(0))[0],
-              R"gpl(SOURCE: s = userSource(id("Bland-Altman Plot of Differences (a"b\-B)")))gpl");
 }
 
 std::string manyCases(int count)
@@ -105,25 +48,6 @@ TEST(Plots, StopDodgingAboveTenThousandPoints)
                     testing::Contains(R"gpl(GUIDE: text.subsubfootnote(label(" Note : Disabled dodge for potential )gpl"
                                       R"gpl(performance gains, Overlapping data points will be hidden")))gpl"));
     }
-}
-
-TEST(Plots, HandEveryColumnOverInOrderForBothPlots)
-{
-    Host host(threeCases);
-    const auto calls = callsOf(host.run("VARIABLE=A WITH=B PLOT(RATIO)"), {"StatGPLGraph::"});
-    std::vector<std::string> expected;
-    for (const std::string title : {"Bland-Altman Plot of Differences (A-B)", "Bland-Altman Plot of Ratios (A-B)"}) {
-        expected.insert(expected.end(),
-                        {"StatGPLGraph::StatGPLGraph [\"" + title + "\"]", "StatGPLGraph::setDataVector [3,true]",
-                         "StatGPLGraph::setDataVector [3,false]"});
-        for (const std::string column : {"xMinMax", "y0", "y1", "y2", "y3", "y4", "y5", "y6", "y7", "y8", "y9", "cref",
-                                         "calimits", "cmean", "cMeanDiffCI", "crefALimitsCI"}) {
-            expected.push_back("StatGPLGraph::addToDataVector [2,\"" + column + "\"]");
-        }
-        expected.insert(expected.end(), {"StatGPLGraph::addGPLGraphToProcedureJSON []", "StatGPLGraph::getName []",
-                                         "StatGPLGraph::getName []", "StatGPLGraph::~StatGPLGraph []"});
-    }
-    EXPECT_THAT(calls, ElementsAreArray(expected));
 }
 
 /// The columns "y1" to "y9" as one number each; both values of a column are equal.
@@ -173,45 +97,6 @@ TEST(Plots, DrawTheRatiosOfAZeroMeanAtZero)
     Host host("A,B;1,1;-1,-1;3,-3");
     host.run("VARIABLE=A WITH=B PLOT(RATIO)");
     EXPECT_THAT(levels(host.object(1)), ElementsAre(0, 0, 0, 0, 0, 0, 0, 0, 0));
-}
-
-/// The texts of the legend columns, and of the axes.
-std::vector<std::string> texts(const rapidjson::Value& graph)
-{
-    std::vector<std::string> found;
-    for (const char* column : {"cref", "calimits", "cmean", "cMeanDiffCI", "crefALimitsCI"}) {
-        const auto& values = graph["data"][column];
-        EXPECT_EQ(values.Size(), 2U);
-        EXPECT_EQ(values[0], values[1]);
-        found.emplace_back(values[0].GetString());
-    }
-    found.push_back(statements(graph)[20]);
-    found.push_back(statements(graph)[21]);
-    return found;
-}
-
-TEST(Plots, NameTheirLinesAndAxes)
-{
-    Host host(threeCases);
-    host.run("VARIABLE=A WITH=B PLOT(RATIO) CRITERIA(AGREEMENT_LIMITS=THREESD CILEVEL_AGREEMENT=99)");
-    EXPECT_THAT(texts(host.object(0)),
-                ElementsAre("Reference line at 0.", "3 SD Agreement Limit", "Mean Difference",
-                            "Confidence interval of Mean Difference", "99.00% Confidence intervals of Agreement Limits",
-                            R"gpl(GUIDE: axis(dim(2),label("A-B")))gpl",
-                            R"gpl(GUIDE: axis(dim(1),label("Mean of A and B")))gpl"));
-    EXPECT_THAT(texts(host.object(1)),
-                ElementsAre("Reference line at 0.", "3 SD Agreement Limit", "Mean Difference in ratio",
-                            "Confidence interval of Mean Difference in ratio",
-                            "99.00% Confidence intervals of Agreement Limits",
-                            R"gpl(GUIDE: axis(dim(2),label("(A-B)/Mean")))gpl",
-                            R"gpl(GUIDE: axis(dim(1),label("Mean of A and B")))gpl"));
-    host.run("VARIABLE=A WITH=B PLOT(RATIO) CRITERIA(PERCENTAGE=TRUE)");
-    EXPECT_THAT(texts(host.object(1)),
-                ElementsAre("Reference line at 0.", "95.00% Agreement Limit", "Mean Difference in percentage",
-                            "Confidence interval of Mean Difference in percentage",
-                            "95.00% Confidence intervals of Agreement Limits",
-                            R"gpl(GUIDE: axis(dim(2),label("(A-B)/Mean %")))gpl",
-                            R"gpl(GUIDE: axis(dim(1),label("Mean of A and B")))gpl"));
 }
 
 TEST(Plots, LabelTheLimitsInThreeWays)

@@ -68,54 +68,6 @@ TEST(CaseReader, DescribesEachVariableByItsLevelAndLabel)
     EXPECT_EQ(&factory.createDataAccess({0}, source, {true, true, true}), &access);
 }
 
-TEST(CaseReader, SkipsAColumnThatTheDataDoNotHave)
-{
-    const tests::TracedSession host("a,b;1,2;3,4");
-    ProcedureDataSource source;
-    Columns columns;
-    readCaseColumns({2, 1, -1}, source, columns);
-    EXPECT_THAT(columns, ElementsAre(ElementsAre(2, 4)));
-}
-
-TEST(CaseReader, MakesItsHostObjectsInOrderAndReleasesThemUsersFirst)
-{
-    tests::TracedSession host("a,b;1,2");
-    ProcedureDataSource source;
-    host.takeTrace();
-    Columns columns;
-    readCaseColumns({0, 1}, source, columns);
-    const auto calls = tests::callsOf(host.takeTrace(), {""});
-    const std::vector<std::string> expected = {
-        "ACAVarValidSpecs::ACAVarValidSpecs [true,true,true]",
-        "QUVO_DataSource::ColumnCount []",
-        "QUVO_DataSource::GetVariable [0]",
-        "QUVO_Variable::QUVO_Variable []",
-        "QUVO_Variable::GetMeasurementLevel []",
-        "QUVO_Variable::GetName []",
-        "QUVO_Variable::GetLabel []",
-        "ACAVarValidSpecs::AddVariable [0,false,true,true,true]",
-        "QUVO_Variable::~QUVO_Variable []",
-        "QUVO_DataSource::GetVariable [1]",
-        "QUVO_Variable::QUVO_Variable []",
-        "QUVO_Variable::GetMeasurementLevel []",
-        "QUVO_Variable::GetName []",
-        "QUVO_Variable::GetLabel []",
-        "ACAVarValidSpecs::AddVariable [1,false,true,true,true]",
-        "QUVO_Variable::~QUVO_Variable []",
-        "ACAInputAdapter::ACAInputAdapter []",
-        "ACAProcDataSourceIter::ACAProcDataSourceIter [true]",
-        "RecKit::RecordIterator::HasMore []",
-        "RecKit::RecordIterator::Next []",
-        "RecKit::Record::Size []",
-        "RecKit::Record::GetAll []",
-        "RecKit::RecordIterator::HasMore []",
-        "ACAProcDataSourceIter::~ACAProcDataSourceIter []",
-        "ACAInputAdapter::~ACAInputAdapter []",
-        "ACAVarValidSpecs::~ACAVarValidSpecs []",
-    };
-    EXPECT_THAT(calls, testing::ElementsAreArray(expected));
-}
-
 /// Reads two cases of one variable with the n-th fallible call failing.
 std::string readWithFailure(long call, const std::function<void()>& raise, Columns& columns)
 {

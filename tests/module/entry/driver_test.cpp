@@ -11,8 +11,6 @@
 namespace {
 
 using testing::ElementsAre;
-using testing::EndsWith;
-using testing::IsEmpty;
 using tests::Host;
 
 TEST(LoadHook, DoesNothingForAnyReasonButAttach)
@@ -42,44 +40,6 @@ TEST(LoadHook, FetchesEachPointerOnceInOrderIntoItsOwnPlace)
     EXPECT_EQ(different.size(), 22U);
     EXPECT_EQ(state.commonAreas[6], pvGetCmaSys());
     EXPECT_EQ(state.commonAreas[21], pvGetCmnBox());
-}
-
-TEST(Driver, CreatesTheObjectsJustBeforeTheirStepAndDestroysThemInReverse)
-{
-    Host host("a,b;1,2;2,4");
-    const auto calls =
-        tests::callsOf(host.run("VARIABLE=a WITH=b"),
-                       {"BpProcedure::", "ProcedureDataSource::", "CommandDescriptor::CommandDescriptor",
-                        "CommandDescriptor::~CommandDescriptor", "QUVO_TokenSequence::", "CommandSpec::CommandSpec",
-                        "CommandSpec::~CommandSpec", "UniversalParser::", "ParserMessage::ParserMessage",
-                        "ParserMessage::~ParserMessage", "ACAVarValidSpecs::~",
-                        "StatJSONGenerator::", "StatJSONConverter::", "OPSCommonOutput::"});
-    EXPECT_THAT(
-        calls, ElementsAre(R"(BpProcedure::BpProcedure ["BLDATMAN",10])", "ProcedureDataSource::ProcedureDataSource []",
-                           R"(CommandDescriptor::CommandDescriptor ["BLDATMAN"])",
-                           "QUVO_TokenSequence::QUVO_TokenSequence [true]", "ParserMessage::ParserMessage []",
-                           "CommandSpec::CommandSpec []", "UniversalParser::UniversalParser []",
-                           "UniversalParser::getCommandSpecifications []", "ParserMessage::ParserMessage []",
-                           "ACAVarValidSpecs::~ACAVarValidSpecs []", "ACAVarValidSpecs::~ACAVarValidSpecs []",
-                           R"(StatJSONGenerator::StatJSONGenerator ["Bland-Altman Analysis",""])",
-                           "OPSCommonOutput::OPSCommonOutput [null]", "StatJSONConverter::StatJSONConverter []",
-                           "StatJSONGenerator::getProcedureStatJSON []", "StatJSONConverter::generateOutput []",
-                           "StatJSONConverter::~StatJSONConverter []", "OPSCommonOutput::~OPSCommonOutput []",
-                           "StatJSONGenerator::~StatJSONGenerator []", "ACAVarValidSpecs::~ACAVarValidSpecs []",
-                           "ParserMessage::~ParserMessage []", "UniversalParser::~UniversalParser []",
-                           "CommandSpec::~CommandSpec []", "ParserMessage::~ParserMessage []",
-                           "QUVO_TokenSequence::~QUVO_TokenSequence []", "CommandDescriptor::~CommandDescriptor []",
-                           "ProcedureDataSource::~ProcedureDataSource []", "BpProcedure::~BpProcedure []"));
-}
-
-TEST(Driver, WritesOnlyTheStepTwoLineWhenTheParserRefuses)
-{
-    Host host("a,b;1,2;2,4");
-    const auto outcome = host.run("VARIABLE=a WITH=b PRONT(DETAILS)");
-    EXPECT_FALSE(outcome.delivered);
-    EXPECT_THAT(outcome.errors, testing::StartsWith("HOST: line 1, column 19: "));
-    EXPECT_THAT(outcome.errors, EndsWith("^\nbldatman_entry: Step2 Unknown error occurred.\n"));
-    EXPECT_THAT(tests::callsOf(outcome, {"CommandSpec::get", "StatJSON"}), IsEmpty());
 }
 
 const std::string everything = "VARIABLE=a WITH=b CRITERIA(LOGTRANSFORM=TRUE) "

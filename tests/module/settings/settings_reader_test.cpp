@@ -12,7 +12,6 @@
 namespace {
 
 using testing::ElementsAre;
-using testing::ElementsAreArray;
 using testing::EndsWith;
 using testing::IsEmpty;
 using testing::StartsWith;
@@ -32,77 +31,6 @@ std::vector<std::string> readerCalls(const tests::Outcome& outcome)
                                    "ACAProcDataSourceIter::ACA"});
     std::erase_if(calls, [](const auto& call) { return call.find('~') != std::string::npos; });
     return calls;
-}
-
-TEST(SettingsReader, AsksForEverySubcommandAndKeywordInOrder)
-{
-    Host host("a,b;1,2;2,4");
-    const auto outcome = host.run("VARIABLE=a WITH=b CRITERIA(SCOPE=LISTWISE CILEVEL_MEANDIFF=90) "
-                                  "PRINT(ROWS=3 SORT(BY=MEAN) PERCENTAGE) PLOT(AGREEMENT_LIMITS)");
-    const std::vector<std::string> expected = {
-        R"(CommandSpec::getSubComObj [""])",
-        R"(SubComObj::getParamObj ["VARIABLE"])",
-        "ParamObj::getStringList []",
-        R"(SubComObj::getParamObj ["VARIABLE"])",
-        "ParamObj::getVarList []",
-        "SubComObj::getSubComExtName []",
-        R"(VarSpecObj::VarSpecObj ["VARIABLE","",true])",
-        "VarSpecObj::ValidateVariables [1,0]",
-        "VarSpecObj::GetValidVarList []",
-        "ACAProcDataSourceIter::ACAProcDataSourceIter [true]",
-        R"(SubComObj::getParamObj ["WITH"])",
-        "ParamObj::getStringList []",
-        R"(SubComObj::getParamObj ["WITH"])",
-        "ParamObj::getVarList []",
-        "SubComObj::getSubComExtName []",
-        R"(VarSpecObj::VarSpecObj ["WITH","",true])",
-        "VarSpecObj::ValidateVariables [1,0]",
-        "VarSpecObj::GetValidVarList []",
-        "ACAProcDataSourceIter::ACAProcDataSourceIter [true]",
-        R"(SubComObj::getParamObj ["PAIRED"])",
-        R"(CommandSpec::getSubComObj ["CRITERIA"])",
-        R"(SubComObj::getParamObj ["SCOPE"])",
-        "ParamObj::getUpStringGeneric []",
-        R"(SubComObj::getParamObj ["CLASSMISSING"])",
-        R"(SubComObj::getParamObj ["LOGTRANSFORM"])",
-        R"(SubComObj::getParamObj ["AGREEMENT_LIMITS"])",
-        R"(SubComObj::getParamObj ["CILEVEL_AGREEMENT"])",
-        R"(SubComObj::getParamObj ["CILEVEL_MEANDIFF"])",
-        "ParamObj::getNumberValue []",
-        R"(SubComObj::getParamObj ["PERCENTAGE"])",
-        R"(CommandSpec::getSubComObj ["PRINT"])",
-        R"(SubComObj::getParamObj ["DETAILS"])",
-        R"(SubComObj::getParamObj ["ROWS"])",
-        "ParamObj::getIntegerValue []",
-        R"(SubComObj::getParamObj ["SORT"])",
-        R"(CommandDescriptor::getSubComDesc ["PRINT"])",
-        R"(SubComDescriptor::getParamDesc ["SORT"])",
-        "ParamObj::getStringQualList [null]",
-        R"(ParamObj::getParamObj ["BY",1])",
-        "ParamObj::getUpStringGeneric []",
-        R"(ParamObj::getParamObj ["DESCENDING",1])",
-        R"(SubComObj::getParamObj ["AGREEMENT"])",
-        R"(SubComObj::getParamObj ["MEANDIFF"])",
-        R"(SubComObj::getParamObj ["PERCENTAGE"])",
-        "ParamObj::getUpStringGeneric []",
-        R"(CommandSpec::getSubComObj ["PLOT"])",
-        R"(SubComObj::getParamObj ["RATIO"])",
-        R"(SubComObj::getParamObj ["REFLINE"])",
-        R"(SubComObj::getParamObj ["AGREEMENT_LIMITS"])",
-        "ParamObj::getUpStringGeneric []",
-        R"(SubComObj::getParamObj ["CI_MEANDIFF"])",
-    };
-    EXPECT_THAT(readerCalls(outcome), ElementsAreArray(expected));
-}
-
-TEST(SettingsReader, CopiesTheFirstListWithoutReadingAgainWhenWithIsAbsent)
-{
-    Host host("a,b;1,2;2,4");
-    const auto outcome = host.run("VARIABLE=a b");
-    EXPECT_TRUE(outcome.delivered);
-    EXPECT_THAT(
-        callsOf(outcome, {"ACAProcDataSourceIter::ACAProc", "VarSpecObj::Validate"}),
-        ElementsAre("VarSpecObj::ValidateVariables [2,0]", "ACAProcDataSourceIter::ACAProcDataSourceIter [true]"));
 }
 
 TEST(SettingsReader, StopsAtAnUnknownVariableOfEitherList)
