@@ -53,7 +53,7 @@ std::vector<std::string> outcomeOf(const std::string& data, const std::string& l
     return lines;
 }
 
-TEST(WholeCommands, CallTheHostAsStored)
+TEST(StoredCalls, AreWhatWholeCommandsMake)
 {
     std::size_t count = 0;
     for (const auto& entry : std::filesystem::directory_iterator(BLDATMAN_STORED_CALLS)) {
