@@ -4,7 +4,7 @@
 #include "runner/input/encoding.h"
 #include "runner/input/input_error.h"
 #include "text/numbers.h"
-#include "text/utf8.h"
+#include "text/wording.h"
 
 #include <algorithm>
 #include <optional>
@@ -15,19 +15,14 @@ namespace runner {
 
 namespace {
 
-constexpr char toLower(char c)
-{
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
-bool equalsInAnyCase(std::string_view text, std::string_view lowerCase)
-{
-    return std::ranges::equal(text, lowerCase, {}, toLower);
-}
-
 bool isMissing(std::string_view cell)
 {
-    return cell.empty() || cell == "." || equalsInAnyCase(cell, "na") || equalsInAnyCase(cell, "nan");
+    constexpr std::size_t longest = 3;
+    if (cell.size() > longest) {
+        return false;
+    }
+    const std::string word = text::upperCase(cell);
+    return word.empty() || word == "." || word == "NA" || word == "NAN";
 }
 
 std::vector<standin::Variable> readHeader(CsvRows& rows, const std::string& fileName)
@@ -46,7 +41,7 @@ std::vector<standin::Variable> readHeader(CsvRows& rows, const std::string& file
         const auto [earlier, isNew] = positions.emplace(cell.raw, position);
         if (!isNew) {
             rows.fail(cell.line, "columns " + std::to_string(earlier->second) + " and " + std::to_string(position) +
-                                     " have the same name, \"" + cell.text() + "\"");
+                                     " have the same name, " + text::inQuotes(cell.text()));
         }
         variables.emplace_back().name = cell.text();
     }
