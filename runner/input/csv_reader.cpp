@@ -7,6 +7,7 @@
 #include "text/wording.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <optional>
 #include <unordered_map>
 #include <vector>
@@ -14,6 +15,9 @@
 namespace runner {
 
 namespace {
+
+using standin::DataSet;
+using standin::Variable;
 
 bool isMissing(std::string_view cell)
 {
@@ -25,13 +29,13 @@ bool isMissing(std::string_view cell)
     return word.empty() || word == "." || word == "NA" || word == "NAN";
 }
 
-std::vector<standin::Variable> readHeader(CsvRows& rows, const std::string& fileName)
+std::vector<Variable> readHeader(CsvRows& rows, const std::string& fileName)
 {
     std::vector<CsvCell> cells;
     if (!rows.next(cells)) {
         throw InputError(fileName, "the file has no header row; its first row must name the variables");
     }
-    std::vector<standin::Variable> variables;
+    std::vector<Variable> variables;
     std::unordered_map<std::string_view, std::size_t> positions;
     for (const CsvCell& cell : cells) {
         const std::size_t position = variables.size() + 1;
@@ -72,7 +76,7 @@ std::optional<double> readNumberCell(std::string_view cell, bool decimalComma)
 }
 
 /// Adds a value to a variable, or finds that it is one of texts.
-void addCell(standin::Variable& variable, const CsvCell& cell, bool decimalComma)
+void addCell(Variable& variable, const CsvCell& cell, bool decimalComma)
 {
     if (const auto value = readNumberCell(cell.raw, decimalComma)) {
         variable.values.push_back(*value);
@@ -85,11 +89,11 @@ void addCell(standin::Variable& variable, const CsvCell& cell, bool decimalComma
 
 /// Makes room for as many cases as the text is likely to hold: each takes a line, and hardly less than two bytes for
 /// each cell. More is made room for as it comes.
-void reserveCases(standin::DataSet& dataSet, std::string_view text)
+void reserveCases(DataSet& dataSet, std::string_view text)
 {
     const std::size_t cases = std::min(static_cast<std::size_t>(std::ranges::count(text, '\n')) + 1,
                                        text.size() / (2 * dataSet.variables.size()));
-    for (standin::Variable& variable : dataSet.variables) {
+    for (Variable& variable : dataSet.variables) {
         variable.values.reserve(cases);
     }
 }
@@ -105,7 +109,7 @@ void tellOf(const CsvRows& rows, std::size_t cases, const Progress& progress)
 }
 
 /// Reads all cases. A variable stops at its first text: its numbers up to there are texts as well.
-void readNumbers(standin::DataSet& dataSet, CsvRows rows, const Progress& progress)
+void readNumbers(DataSet& dataSet, CsvRows rows, const Progress& progress)
 {
     const bool decimalComma = rows.delimiter() != ',';
     std::vector<CsvCell> cells;
@@ -125,11 +129,11 @@ struct TextVariable {
     std::unordered_map<std::string_view, double> codes;
 };
 
-std::vector<TextVariable> prepareTexts(standin::DataSet& dataSet)
+std::vector<TextVariable> prepareTexts(DataSet& dataSet)
 {
     std::vector<TextVariable> texts;
     for (std::size_t i = 0; i < dataSet.variables.size(); ++i) {
-        standin::Variable& variable = dataSet.variables[i];
+        Variable& variable = dataSet.variables[i];
         if (variable.firstText) {
             variable.level = QUVO_Variable_Enumerations::LevelNominal;
             variable.values.clear();
@@ -139,7 +143,7 @@ std::vector<TextVariable> prepareTexts(standin::DataSet& dataSet)
     return texts;
 }
 
-void addText(standin::Variable& variable, TextVariable& text, const CsvCell& cell)
+void addText(Variable& variable, TextVariable& text, const CsvCell& cell)
 {
     if (isMissing(cell.raw)) {
         variable.values.push_back(systemMissingValue);
@@ -153,7 +157,7 @@ void addText(standin::Variable& variable, TextVariable& text, const CsvCell& cel
 }
 
 /// Goes over the cases again for the variables that turned out to be of texts.
-void readTexts(standin::DataSet& dataSet, CsvRows rows, const Progress& progress)
+void readTexts(DataSet& dataSet, CsvRows rows, const Progress& progress)
 {
     std::vector<TextVariable> texts = prepareTexts(dataSet);
     if (texts.empty()) {
@@ -170,10 +174,10 @@ void readTexts(standin::DataSet& dataSet, CsvRows rows, const Progress& progress
 
 }  // namespace
 
-standin::DataSet readCsv(std::string_view text, const std::string& fileName, const Progress& progress)
+DataSet readCsv(std::string_view text, const std::string& fileName, const Progress& progress)
 {
     CsvRows rows(requireUtf8(text, fileName), fileName);
-    standin::DataSet dataSet;
+    DataSet dataSet;
     dataSet.variables = readHeader(rows, fileName);
     reserveCases(dataSet, text);
     // Each takes a copy of the walk and so begins at the first case.

@@ -17,6 +17,8 @@ namespace runner {
 namespace {
 
 using QUVO_Variable_Enumerations::MeasurementLevel;
+using standin::DataSet;
+using standin::Variable;
 using text::inQuotes;
 using Value = PlacedJson::Value;
 
@@ -41,7 +43,7 @@ constexpr std::array<LevelName, 3> levelNames{{{"scale", QUVO_Variable_Enumerati
 /// Turns the text into entries, checked against the data set.
 class DictionaryReader {
 public:
-    DictionaryReader(const standin::DataSet& dataSet, std::string_view text, const std::string& fileName)
+    DictionaryReader(const DataSet& dataSet, std::string_view text, const std::string& fileName)
         : dataSet_(dataSet)
         , json_(text, fileName)
     {
@@ -57,7 +59,7 @@ private:
     std::map<double, std::string> readValueLabels(const Place& place, const Value& object) const;
     std::vector<double> readMissingCodes(const Place& place, const Value& list) const;
 
-    const standin::DataSet& dataSet_;
+    const DataSet& dataSet_;
     PlacedJson json_;
 };
 
@@ -157,7 +159,7 @@ void replaceMissingCodes(std::vector<double>& values, const std::vector<double>&
     }
 }
 
-void apply(standin::Variable& variable, Entry& entry)
+void apply(Variable& variable, Entry& entry)
 {
     if (entry.label) {
         variable.label = std::move(*entry.label);
@@ -174,7 +176,7 @@ void apply(standin::Variable& variable, Entry& entry)
 
 }  // namespace
 
-void applyDictionary(standin::DataSet& dataSet, std::string_view text, const std::string& fileName)
+void applyDictionary(DataSet& dataSet, std::string_view text, const std::string& fileName)
 {
     for (Entry& entry : DictionaryReader(dataSet, text, fileName).read()) {
         apply(dataSet.variables[entry.position], entry);
