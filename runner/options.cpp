@@ -11,24 +11,16 @@
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
+#include <cstddef>
 #include <iostream>
+#include <iterator>
 #include <string>
 
 namespace runner {
 
-namespace {
+namespace fs = std::filesystem;
 
-/// As the command line has it, before it is looked at closely.
-struct RawOptions {
-    std::string dataFile;
-    std::string command;
-    std::string commandFile;
-    std::string dictionaryFile;
-    std::string language = "en";
-    std::vector<std::string> outputs;
-    std::string module;
-    std::string traceFile;
-};
+namespace {
 
 const char* const footer = R"text(
 A command names the variables to compare and what to print and plot;
@@ -44,11 +36,11 @@ constexpr std::size_t descriptionsWidth = 54;
 /// The description of an option in lines of one width, below it an example of its use.
 std::string described(const std::string& description, const std::string& example)
 {
-    std::string text;
+    std::string lines;
     for (const std::string& line : text::wrapText(description, descriptionsWidth)) {
-        text += line + "\n";
+        lines += line + "\n";
     }
-    return text + "  " + example;
+    return lines + "  " + example;
 }
 
 /// "en English, es Spanish, ..."
@@ -61,57 +53,60 @@ std::string languageList()
     return list;
 }
 
-void addInputOptions(CLI::App& app, RawOptions& raw)
+CLI::Option* addFile(CLI::App& app, const std::string& name, fs::path& file, const std::string& description)
 {
-    app.add_option("DATA.csv", raw.dataFile,
-                   described("the data: CSV in UTF-8, one variable per column, names in the first row; required",
-                             "examples/peakflow.csv -f examples/full.bld"))
-        ->option_text(" ")
-        ->required();
-    auto* command =
-        app.add_option("-c,--command", raw.command,
-                       described("one command; the leading word BLDATMAN and the closing semicolon may be left out",
-                                 "-c \"VARIABLE=wright1 WITH=mini1 PRINT(AGREEMENT)\""));
-    auto* commandFile =
-        app.add_option("-f,--command-file", raw.commandFile,
-                       described("a file of commands, each closed by a semicolon, run in order over the data",
-                                 "-f examples/full.bld"));
-    command->option_text("TEXT")->excludes(commandFile);
-    commandFile->option_text("F");
-    app.add_option("-d,--dictionary", raw.dictionaryFile,
-                   described("JSON with labels, levels, value labels and missing codes of the variables",
-                             "-d examples/peakflow.json"))
-        ->option_text("F");
+    const auto take = [&file](const std::string& text) { file = pathOf(text); };
+    return app.add_option_function<std::string>(name, take, description)->option_text("F");
 }
 
-void addOutputOptions(CLI::App& app, RawOptions& raw)
+void addInputOptions(CLI::App& app, Options& options)
 {
-    app.add_option("-l,--language", raw.language,
+    addFile(app, "DATA.csv", options.dataFile,
+            described("the data: CSV in UTF-8, one variable per column, names in the first row; required",
+                      "examples/peakflow.csv -f examples/full.bld"))
+        ->option_text(" ")
+        ->required();
+    const auto takeCommand = [&options](const std::string& text) { options.command = text; };
+    auto* command = app.add_option_function<std::string>(
+        "-c,--command", takeCommand,
+        described("one command; the leading word BLDATMAN and the closing semicolon may be left out",
+                  "-c \"VARIABLE=wright1 WITH=mini1 PRINT(AGREEMENT)\""));
+    command->option_text("TEXT");
+    addFile(
+        app, "-f,--command-file", options.commandFile,
+        described("a file of commands, each closed by a semicolon, run in order over the data", "-f examples/full.bld"))
+        ->excludes(command);
+    addFile(app, "-d,--dictionary", options.dictionaryFile,
+            described("JSON with labels, levels, value labels and missing codes of the variables",
+                      "-d examples/peakflow.json"));
+}
+
+void addOutputOptions(CLI::App& app, Options& options, std::vector<std::string>& outputs)
+{
+    app.add_option("-l,--language", options.language,
                    described("the language of the output, en unless given: " + languageList(), "-l pt_BR"))
         ->option_text("CODE");
     app.add_option(
-           "-o,--output", raw.outputs,
+           "-o,--output", outputs,
            described("write a file, by its ending a report for a browser (.html), text (.txt) or data (.json), or "
                      "with a closing slash the plots as .svg files into a folder; may be repeated; without it, "
                      "text on the standard output",
                      "-o report.html -o report.json -o plots/"))
         ->option_text("F")
         ->allow_extra_args(false);
-    app.add_option("--trace", raw.traceFile,
-                   described("write every call between module and host, one line each, in order", "--trace trace.txt"))
-        ->option_text("F");
+    addFile(app, "--trace", options.traceFile,
+            described("write every call between module and host, one line each, in order", "--trace trace.txt"));
 }
 
-void addOptions(CLI::App& app, RawOptions& raw)
+void addOptions(CLI::App& app, Options& options, std::vector<std::string>& outputs)
 {
     app.get_formatter()->column_width(namesWidth);
     app.allow_windows_style_options(false);  // "/data/x.csv" is a file on every system
-    addInputOptions(app, raw);
-    addOutputOptions(app, raw);
-    app.add_option("--module", raw.module,
-                   described("the library to load, the one that came with this program unless given",
-                             "--module build/sanitize/lib/libbldatman.so"))
-        ->option_text("F");
+    addInputOptions(app, options);
+    addOutputOptions(app, options, outputs);
+    addFile(app, "--module", options.module,
+            described("the library to load, the one that came with this program unless given",
+                      "--module build/sanitize/lib/libbldatman.so"));
     app.set_help_flag("-h,--help", described("print this and exit", "bldatman-run --help"));
     app.set_version_flag("--version", std::string("bldatman-run ") + BLDATMAN_VERSION,
                          described("print the version and exit", "bldatman-run --version"));
@@ -130,49 +125,34 @@ OutputRequest outputRequest(const std::string& name)
 /// No output may take the place of an input or of another output.
 void requireDistinctFiles(const Options& options)
 {
-    std::vector<std::filesystem::path> taken = {options.dataFile, options.commandFile, options.dictionaryFile,
-                                                options.module};
-    std::erase(taken, std::filesystem::path());
-    std::vector<std::filesystem::path> written;
+    std::vector<fs::path> taken = {options.dataFile, options.commandFile, options.dictionaryFile, options.module};
+    std::vector<fs::path> written;
     for (const OutputRequest& output : options.outputs) {
         written.push_back(output.place);
     }
-    if (!options.traceFile.empty()) {
-        written.push_back(options.traceFile);
-    }
-    for (const std::filesystem::path& file : written) {
-        for (const std::filesystem::path& other : taken) {
-            if (isSameFile(file, other)) {
-                throw InputError(shown(file), "would be written over " + shown(other) + ", which is used already");
-            }
+    written.push_back(options.traceFile);
+    std::erase(taken, fs::path());
+    std::erase(written, fs::path());
+    for (const fs::path& file : written) {
+        const auto other = std::ranges::find_if(taken, [&](const fs::path& used) { return isSameFile(file, used); });
+        if (other != taken.end()) {
+            throw InputError(shown(file), "would be written over " + shown(*other) + ", which is used already");
         }
         taken.push_back(file);
     }
 }
 
-Options checked(const CLI::App& app, const RawOptions& raw)
+/// What the options add up to, once each of them has been read.
+void complete(const CLI::App& app, Options& options, const std::vector<std::string>& outputs)
 {
     if (app.count("--command") + app.count("--command-file") == 0) {
         throw InputError("there is no command: give one with -c or a file of commands with -f");
     }
-    if (text::firstBadUtf8Byte(raw.language)) {
+    if (text::firstBadUtf8Byte(options.language)) {
         throw InputError("the language code is not UTF-8");
     }
-    Options options;
-    options.dataFile = pathOf(raw.dataFile);
-    if (app.count("--command") > 0) {
-        options.command = raw.command;
-    }
-    options.commandFile = pathOf(raw.commandFile);
-    options.dictionaryFile = pathOf(raw.dictionaryFile);
-    options.language = raw.language;
-    for (const std::string& file : raw.outputs) {
-        options.outputs.push_back(outputRequest(file));
-    }
-    options.module = pathOf(raw.module);
-    options.traceFile = pathOf(raw.traceFile);
+    std::ranges::transform(outputs, std::back_inserter(options.outputs), outputRequest);
     requireDistinctFiles(options);
-    return options;
 }
 
 }  // namespace
@@ -180,12 +160,14 @@ Options checked(const CLI::App& app, const RawOptions& raw)
 CommandLine readCommandLine(std::vector<std::string> arguments)
 {
     CLI::App app("Runs Bland-Altman method-comparison commands over a CSV file.", "bldatman-run");
-    RawOptions raw;
-    addOptions(app, raw);
+    Options options;
+    std::vector<std::string> outputs;
+    addOptions(app, options, outputs);
     try {
         std::ranges::reverse(arguments);  // as the library takes them
         app.parse(arguments);
-        return {checked(app, raw), exitDelivered};
+        complete(app, options, outputs);
+        return {options, exitDelivered};
     } catch (const CLI::Success& helpOrVersion) {
         app.exit(helpOrVersion);
         if (std::cout.flush()) {

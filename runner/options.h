@@ -26,7 +26,7 @@ struct Options {
     std::filesystem::path dictionaryFile;  ///< empty: none
     std::string language = "en";
     std::vector<OutputRequest> outputs;
-    std::filesystem::path module;     ///< empty: the one built beside the runner
+    std::filesystem::path module;     ///< empty: the one beside the host's library
     std::filesystem::path traceFile;  ///< empty: none
 };
 

@@ -13,9 +13,11 @@
 #include "runner/platform/paths.h"
 #include "runner/terminal/progress_line.h"
 #include "standin/command/command_text.h"
+#include "standin/data/data_set.h"
 #include "standin/session/session.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <filesystem>
 #include <functional>
 #include <optional>
@@ -26,13 +28,16 @@ namespace runner {
 
 namespace {
 
+using standin::CommandText;
+using standin::DataSet;
+
 std::string megabytes(std::size_t bytes)
 {
     const std::size_t tenths = bytes / 100000;
     return std::to_string(tenths / 10) + "." + std::to_string(tenths % 10);
 }
 
-standin::DataSet readCsvFile(const std::filesystem::path& file)
+DataSet readCsvFile(const std::filesystem::path& file)
 {
     const std::string name = shown(file);
     ProgressLine line;
@@ -43,16 +48,16 @@ standin::DataSet readCsvFile(const std::filesystem::path& file)
     return readCsv(bytes, name, std::bind_front(show, "Reading "));
 }
 
-standin::DataSet readData(const Options& options)
+DataSet readData(const Options& options)
 {
-    standin::DataSet dataSet = readCsvFile(options.dataFile);
+    DataSet dataSet = readCsvFile(options.dataFile);
     if (!options.dictionaryFile.empty()) {
         applyDictionary(dataSet, readWholeFile(options.dictionaryFile), shown(options.dictionaryFile));
     }
     return dataSet;
 }
 
-std::vector<standin::CommandText> readCommands(const Options& options)
+std::vector<CommandText> readCommands(const Options& options)
 {
     if (options.command) {
         return {standin::singleCommand(*options.command)};
@@ -168,7 +173,7 @@ private:
     void raise(ExitStatus status) { status_ = std::max<int>(status_, status); }
 
     const Options& options_;
-    std::vector<standin::CommandText> commands_;
+    std::vector<CommandText> commands_;
     std::optional<OutputFile> trace_;
     std::optional<ModuleLibrary> library_;
     standin::Session session_;

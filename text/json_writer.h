@@ -1,5 +1,5 @@
-// Writes JSON as all of the stand-in does: numbers so that they read back to the same double, and what no JSON number
-// can say as the texts "NaN", "Infinity" and "-Infinity".
+// Writes JSON with numbers that read back to the same double, and what no JSON number can say as the texts "NaN",
+// "Infinity" and "-Infinity".
 #pragma once
 
 #include <rapidjson/prettywriter.h>

@@ -3,9 +3,15 @@
 #include "runner/input/input_error.h"
 #include "standin/command/tokens.h"
 
+#include <cstddef>
+#include <memory>
+
 namespace runner {
 
 namespace {
+
+using standin::CommandText;
+using standin::Token;
 
 [[noreturn]] void refuse(const std::string& text, std::size_t offset, const std::string& reason,
                          const std::string& fileName)
@@ -13,7 +19,7 @@ namespace {
     throw InputError(fileName, standin::placeOf(text, offset).line, reason);
 }
 
-std::vector<standin::Token> tokensOfFile(const std::string& text, const std::string& fileName)
+std::vector<Token> tokensOfFile(const std::string& text, const std::string& fileName)
 {
     try {
         return standin::tokenize(text, 0, text.size());
@@ -24,13 +30,13 @@ std::vector<standin::Token> tokensOfFile(const std::string& text, const std::str
 
 }  // namespace
 
-std::vector<standin::CommandText> cutCommands(const std::string& text, const std::string& fileName)
+std::vector<CommandText> cutCommands(const std::string& text, const std::string& fileName)
 {
     const auto whole = std::make_shared<const std::string>(text);
-    std::vector<standin::CommandText> commands;
-    const standin::Token* first = nullptr;
-    const std::vector<standin::Token> tokens = tokensOfFile(text, fileName);
-    for (const standin::Token& token : tokens) {
+    std::vector<CommandText> commands;
+    const Token* first = nullptr;
+    const std::vector<Token> tokens = tokensOfFile(text, fileName);
+    for (const Token& token : tokens) {
         if (!token.is(";")) {
             first = first == nullptr ? &token : first;
         } else if (first != nullptr) {
@@ -38,7 +44,8 @@ std::vector<standin::CommandText> cutCommands(const std::string& text, const std
             first = nullptr;
         }
     }
-    if (first->kind != standin::Token::Kind::End) {
+    // The end of the text is a token too, and the one found here unless a command is still open.
+    if (first->kind != Token::Kind::End) {
         refuse(text, first->begin, "the command that begins here is not closed by a semicolon", fileName);
     }
     if (commands.empty()) {

@@ -4,9 +4,10 @@
 #include "runner/input/encoding.h"
 #include "runner/input/input_error.h"
 #include "text/numbers.h"
-#include "text/utf8.h"
+#include "text/wording.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <optional>
 #include <unordered_map>
 #include <vector>
@@ -15,28 +16,26 @@ namespace runner {
 
 namespace {
 
-constexpr char toLower(char c)
-{
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
-bool equalsInAnyCase(std::string_view text, std::string_view lowerCase)
-{
-    return std::ranges::equal(text, lowerCase, {}, toLower);
-}
+using standin::DataSet;
+using standin::Variable;
 
 bool isMissing(std::string_view cell)
 {
-    return cell.empty() || cell == "." || equalsInAnyCase(cell, "na") || equalsInAnyCase(cell, "nan");
+    constexpr std::size_t longest = 3;
+    if (cell.size() > longest) {
+        return false;
+    }
+    const std::string word = text::upperCase(cell);
+    return word.empty() || word == "." || word == "NA" || word == "NAN";
 }
 
-std::vector<standin::Variable> readHeader(CsvRows& rows, const std::string& fileName)
+std::vector<Variable> readHeader(CsvRows& rows, const std::string& fileName)
 {
     std::vector<CsvCell> cells;
     if (!rows.next(cells)) {
         throw InputError(fileName, "the file has no header row; its first row must name the variables");
     }
-    std::vector<standin::Variable> variables;
+    std::vector<Variable> variables;
     std::unordered_map<std::string_view, std::size_t> positions;
     for (const CsvCell& cell : cells) {
         const std::size_t position = variables.size() + 1;
@@ -46,7 +45,7 @@ std::vector<standin::Variable> readHeader(CsvRows& rows, const std::string& file
         const auto [earlier, isNew] = positions.emplace(cell.raw, position);
         if (!isNew) {
             rows.fail(cell.line, "columns " + std::to_string(earlier->second) + " and " + std::to_string(position) +
-                                     " have the same name, \"" + cell.text() + "\"");
+                                     " have the same name, " + text::inQuotes(cell.text()));
         }
         variables.emplace_back().name = cell.text();
     }
@@ -77,7 +76,7 @@ std::optional<double> readNumberCell(std::string_view cell, bool decimalComma)
 }
 
 /// Adds a value to a variable, or finds that it is one of texts.
-void addCell(standin::Variable& variable, const CsvCell& cell, bool decimalComma)
+void addCell(Variable& variable, const CsvCell& cell, bool decimalComma)
 {
     if (const auto value = readNumberCell(cell.raw, decimalComma)) {
         variable.values.push_back(*value);
@@ -90,11 +89,11 @@ void addCell(standin::Variable& variable, const CsvCell& cell, bool decimalComma
 
 /// Makes room for as many cases as the text is likely to hold: each takes a line, and hardly less than two bytes for
 /// each cell. More is made room for as it comes.
-void reserveCases(standin::DataSet& dataSet, std::string_view text)
+void reserveCases(DataSet& dataSet, std::string_view text)
 {
     const std::size_t cases = std::min(static_cast<std::size_t>(std::ranges::count(text, '\n')) + 1,
                                        text.size() / (2 * dataSet.variables.size()));
-    for (standin::Variable& variable : dataSet.variables) {
+    for (Variable& variable : dataSet.variables) {
         variable.values.reserve(cases);
     }
 }
@@ -110,7 +109,7 @@ void tellOf(const CsvRows& rows, std::size_t cases, const Progress& progress)
 }
 
 /// Reads all cases. A variable stops at its first text: its numbers up to there are texts as well.
-void readNumbers(standin::DataSet& dataSet, CsvRows rows, const Progress& progress)
+void readNumbers(DataSet& dataSet, CsvRows rows, const Progress& progress)
 {
     const bool decimalComma = rows.delimiter() != ',';
     std::vector<CsvCell> cells;
@@ -130,11 +129,11 @@ struct TextVariable {
     std::unordered_map<std::string_view, double> codes;
 };
 
-std::vector<TextVariable> prepareTexts(standin::DataSet& dataSet)
+std::vector<TextVariable> prepareTexts(DataSet& dataSet)
 {
     std::vector<TextVariable> texts;
     for (std::size_t i = 0; i < dataSet.variables.size(); ++i) {
-        standin::Variable& variable = dataSet.variables[i];
+        Variable& variable = dataSet.variables[i];
         if (variable.firstText) {
             variable.level = QUVO_Variable_Enumerations::LevelNominal;
             variable.values.clear();
@@ -144,7 +143,7 @@ std::vector<TextVariable> prepareTexts(standin::DataSet& dataSet)
     return texts;
 }
 
-void addText(standin::Variable& variable, TextVariable& text, const CsvCell& cell)
+void addText(Variable& variable, TextVariable& text, const CsvCell& cell)
 {
     if (isMissing(cell.raw)) {
         variable.values.push_back(systemMissingValue);
@@ -158,7 +157,7 @@ void addText(standin::Variable& variable, TextVariable& text, const CsvCell& cel
 }
 
 /// Goes over the cases again for the variables that turned out to be of texts.
-void readTexts(standin::DataSet& dataSet, CsvRows rows, const Progress& progress)
+void readTexts(DataSet& dataSet, CsvRows rows, const Progress& progress)
 {
     std::vector<TextVariable> texts = prepareTexts(dataSet);
     if (texts.empty()) {
@@ -175,10 +174,10 @@ void readTexts(standin::DataSet& dataSet, CsvRows rows, const Progress& progress
 
 }  // namespace
 
-standin::DataSet readCsv(std::string_view text, const std::string& fileName, const Progress& progress)
+DataSet readCsv(std::string_view text, const std::string& fileName, const Progress& progress)
 {
     CsvRows rows(requireUtf8(text, fileName), fileName);
-    standin::DataSet dataSet;
+    DataSet dataSet;
     dataSet.variables = readHeader(rows, fileName);
     reserveCases(dataSet, text);
     // Each takes a copy of the walk and so begins at the first case.

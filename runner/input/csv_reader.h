@@ -1,7 +1,7 @@
 // Reads a CSV file into a data set.
 #pragma once
 
-#include "runner/input/progress.h"
+#include "runner/input/input_file.h"
 #include "standin/data/data_set.h"
 
 #include <string>

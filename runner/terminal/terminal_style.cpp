@@ -3,6 +3,7 @@
 #include "runner/terminal/terminal.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdlib>
 
 namespace runner {

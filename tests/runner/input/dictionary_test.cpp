@@ -1,76 +1,51 @@
 #include "runner/input/dictionary.h"
 
-#include "host/missing_value.h"
 #include "runner/input/csv_reader.h"
 #include "runner/input/input_error.h"
+#include "tests/runner/input/data_text.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
-#include <map>
 #include <string>
-#include <string_view>
+#include <utility>
 #include <vector>
 
 namespace runner {
 namespace {
 
-using namespace QUVO_Variable_Enumerations;
-using Values = std::vector<double>;
+/// A dictionary, and the data that it makes of the sample or the beginning of the reason why it is refused.
+using Cases = std::vector<std::pair<std::string, std::string>>;
 
-standin::DataSet sample()
-{
-    return readCsv("a,t\n1,x\n-9,-9\n0.3,x\n", "d.csv");
-}
+const char* const sample = "a,t\n0,x\n-9,-9\n0.3,x\n123456789012345678901,x\n";
+const char* const unchanged = "a = 0 -9 0.3 1.23456789012e+20 | t nominal {1:x} {2:-9} @2:x = 1 2 1 1";
 
-TEST(DictionaryReader, AppliesEveryMember)
+TEST(Dictionary, ChangesWhatItMentions)
 {
-    standin::DataSet dataSet = sample();
-    applyDictionary(dataSet,
-                    "\xEF\xBB\xBF"
-                    R"({"variables": {"a": {"label": "Gr\u00f6\u00dfe", "level": "ordinal", "missing": [-9, 3e-1],
-                                            "valueLabels": {"1": "one", "+2.5": ""}}}})",
-                    "v.json");
-    const standin::Variable& a = dataSet.variables[0];
-    EXPECT_EQ(a.label, "Gr\xC3\xB6\xC3\x9F"
-                       "e");
-    EXPECT_EQ(a.level, LevelOrdinal);
-    EXPECT_EQ(a.values, (Values{1, systemMissingValue, systemMissingValue}));
-    EXPECT_EQ(a.valueLabels, (std::map<double, std::string>{{1, "one"}, {2.5, ""}}));
-}
-
-TEST(DictionaryReader, ReadsNumbersAsTheDataHaveThem)
-{
-    standin::DataSet dataSet = readCsv("a\n0\n0.1\n123456789012345678901\n5\n", "d.csv");
-    applyDictionary(dataSet, R"({"variables": {"a": {"missing": [-0e90, 10e-2, 123456789012345678901]}}})", "v.json");
-    EXPECT_EQ(dataSet.variables[0].values, (Values{systemMissingValue, systemMissingValue, systemMissingValue, 5}));
-}
-
-TEST(DictionaryReader, LeavesTextsTexts)
-{
-    standin::DataSet dataSet = sample();
-    applyDictionary(dataSet, R"({"variables": {"t": {"level": "scale", "missing": [1], "valueLabels": {"1": "no"}}}})",
-                    "v.json");
-    const standin::Variable& texts = dataSet.variables[1];
-    EXPECT_EQ(texts.level, LevelScale);
-    EXPECT_TRUE(texts.firstText);
-    EXPECT_EQ(texts.values, (Values{1, 2, 1}));
-    EXPECT_EQ(texts.valueLabels.at(1), "x");
-}
-
-TEST(DictionaryReader, KeepsWhatIsNotMentioned)
-{
-    for (const char* const text : {"{}", R"({"variables": {}})", R"({"variables": {"a": {}, "t": {}}})"}) {
-        standin::DataSet dataSet = sample();
+    const Cases cases{
+        {"{}", unchanged},
+        {R"({"variables": {}})", unchanged},
+        {R"({"variables": {"a": {}, "t": {}}})", unchanged},
+        {"\xEF\xBB\xBF"
+         R"({"variables": {"a": {"label": "Gr\u00f6\u00dfe", "level": "ordinal", "missing": [-9, 30e-2],
+                                 "valueLabels": {"1": "one", "+2.5": ""}}}})",
+         "a \"Größe\" ordinal {1:one} {2.5:} = 0 . . 1.23456789012e+20 | t nominal {1:x} {2:-9} @2:x = 1 2 1 1"},
+        // Numbers as the data have them.
+        {R"({"variables": {"a": {"missing": [-0e90, 123456789012345678901]}}})",
+         "a = . -9 0.3 . | t nominal {1:x} {2:-9} @2:x = 1 2 1 1"},
+        // Texts stay texts.
+        {R"({"variables": {"t": {"level": "scale", "missing": [1], "valueLabels": {"1": "no"}}}})",
+         "a = 0 -9 0.3 1.23456789012e+20 | t {1:x} {2:-9} @2:x = 1 2 1 1"},
+    };
+    for (const auto& [text, expected] : cases) {
+        standin::DataSet dataSet = readCsv(sample, "d.csv");
         applyDictionary(dataSet, text, "v.json");
-        EXPECT_EQ(dataSet.variables[0].level, LevelScale);
-        EXPECT_EQ(dataSet.variables[1].level, LevelNominal);
-        EXPECT_EQ(dataSet.variables[1].valueLabels.size(), 2U);
+        EXPECT_EQ(tests::asText(dataSet), expected) << text;
     }
 }
 
-TEST(DictionaryReader, RefusesWhatItCannotUseWithLineAndReason)
+TEST(Dictionary, IsRefusedAsAWholeWithLineAndReason)
 {
-    const std::map<std::string, std::string> complaints{
+    const Cases cases{
         {"", "v.json:1: this cannot be read as JSON: The document is empty"},
         {"{\n\"variables\": {\n}", "v.json:3: this cannot be read as JSON: "},
         {"{}\r\n{}", "v.json:2: this cannot be read as JSON: "},
@@ -78,8 +53,9 @@ TEST(DictionaryReader, RefusesWhatItCannotUseWithLineAndReason)
         {"[]", "v.json:1: the dictionary must be an object, in braces"},
         {"{\n\"Variables\": {}}", R"(v.json:2: "Variables" is no member of a dictionary)"},
         {R"({"variables": []})", R"(v.json:1: "variables" must be an object)"},
-        {"{\"variables\": {\n\n\"\\u0062\": {}}}", R"(v.json:3: variable "b" is not in the data)"},
-        {"{\"variables\": {\n\"a\": {},\n\"a\": {}}}", R"(v.json:3: "a" stands twice in "variables")"},
+        {R"({"variables": {"a": {"label": "x", "missing": [0]}, "b": {}}})",
+         R"(v.json:1: variable "b" is not in the data)"},
+        {"{\"variables\": {\n\"a\": {},\n\"\\u0061\": {}}}", R"(v.json:3: "a" stands twice in "variables")"},
         {R"({"variables": {"a": 1}})", R"(v.json:1: variable "a" must be an object)"},
         {"{\"variables\": {\"a\": {\r\n\"labels\": {}}}}",
          R"(v.json:2: "labels" of variable "a" is unknown; a variable may have "label", "level")"},
@@ -97,33 +73,19 @@ TEST(DictionaryReader, RefusesWhatItCannotUseWithLineAndReason)
          R"(v.json:1: "missing" of variable "a" must be a list of numbers)"},
         {R"({"variables": {"a": {"missing": ["-9"]}}})", R"(v.json:1: "missing" of variable "a" must be a list)"},
         {"{\"variables\": {\"a\": {\n\"missing\": [1e999]}}}", "v.json:2: this cannot be read as JSON: Number too big"},
+        {std::string(1'000'000, '['), "v.json:1: this cannot be read as JSON: "},
+        {std::string(1'000'000, '[') + std::string(1'000'000, ']'), "v.json:1: the dictionary must be an object"},
     };
-    for (const auto& [text, complaint] : complaints) {
-        standin::DataSet dataSet = sample();
+    for (const auto& [text, complaint] : cases) {
+        standin::DataSet dataSet = readCsv(sample, "d.csv");
         try {
             applyDictionary(dataSet, text, "v.json");
             ADD_FAILURE() << "accepted: " << text;
         } catch (const InputError& error) {
-            EXPECT_TRUE(std::string_view(error.what()).starts_with(complaint)) << text << '\n' << error.what();
+            EXPECT_THAT(error.what(), testing::StartsWith(complaint));
+            EXPECT_EQ(tests::asText(dataSet), unchanged);
         }
     }
-}
-
-TEST(DictionaryReader, ChangesNothingWhenAnyPartIsRefused)
-{
-    standin::DataSet dataSet = sample();
-    EXPECT_THROW(applyDictionary(dataSet, R"({"variables": {"a": {"label": "x", "missing": [1]}, "b": {}}})", "v.json"),
-                 InputError);
-    EXPECT_EQ(dataSet.variables[0].label, "");
-    EXPECT_EQ(dataSet.variables[0].values, (Values{1, -9, 0.3}));
-}
-
-TEST(DictionaryReader, SurvivesAnyDepthOfNesting)
-{
-    standin::DataSet dataSet = sample();
-    EXPECT_THROW(applyDictionary(dataSet, std::string(1'000'000, '['), "v.json"), InputError);
-    EXPECT_THROW(applyDictionary(dataSet, std::string(1'000'000, '[') + std::string(1'000'000, ']'), "v.json"),
-                 InputError);
 }
 
 }  // namespace
