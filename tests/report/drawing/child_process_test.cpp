@@ -1,5 +1,7 @@
 #include "report/drawing/child_process.h"
 
+#include "report/plots/plot_error.h"
+
 #include <gmock/gmock.h>
 
 #include <new>
@@ -7,7 +9,6 @@
 
 namespace {
 
-using report::ProcessError;
 using report::runProgram;
 using testing::ThrowsMessage;
 
@@ -34,7 +35,7 @@ TEST(ChildProcess, EndsWhenItsReaderGivesUp)
 TEST(ChildProcess, NamesTheProgramThatIsNotThere)
 {
     EXPECT_THAT([] { runProgram({"no-such-program-anywhere"}, "input", [](std::string_view) {}); },
-                ThrowsMessage<ProcessError>("no-such-program-anywhere is not installed"));
+                ThrowsMessage<report::PlotError>("no-such-program-anywhere is not installed"));
 }
 
 }  // namespace

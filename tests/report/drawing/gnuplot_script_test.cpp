@@ -1,5 +1,7 @@
 #include "report/drawing/gnuplot_script.h"
 
+#include "report/plots/plot_error.h"
+
 #include <gmock/gmock.h>
 
 #include <cmath>
@@ -19,11 +21,10 @@ constexpr double infinity = std::numeric_limits<double>::infinity();
 
 TEST(GnuplotScript, GivesGnuplotNothingToRunOrToInterpret)
 {
-    Chart chart;
-    chart.title = chart.xLabel = chart.yLabel = chart.footnote =
-        "`id` $(id) \"\n id\n!id\n@x {/=9 a}_b^c %d \\n 'q' 95.00";
-    chart.lines.push_back({{0, 1}, {1, 1}, chart.title});
-    const std::string script = gnuplotScript(chart);
+    Plot plot;
+    plot.title = plot.xLabel = plot.yLabel = plot.footnote = "`id` $(id) \"\n id\n!id\n@x {/=9 a}_b^c %d \\n 'q' 95.00";
+    plot.lines.push_back({{0, 1}, {1, 1}, plot.title});
+    const std::string script = gnuplotScript(plot);
     EXPECT_THAT(script, Not(HasSubstr("\nid")));
     for (const char* raw : {"`", "$(", "!", "@x", "{", "^", "\\n", "'q'", "\\0569"}) {
         EXPECT_THAT(script, Not(HasSubstr(raw)));
@@ -33,10 +34,10 @@ TEST(GnuplotScript, GivesGnuplotNothingToRunOrToInterpret)
 
 TEST(GnuplotScript, LeavesOutWhatIsNotFinite)
 {
-    Chart chart;
-    chart.points.push_back({{1, notANumber, 3, infinity, 5}, {1, 2, -infinity, 4, 5}, true});
-    chart.lines.push_back({{0, 6}, {notANumber, notANumber}, "none"});
-    const std::string script = gnuplotScript(chart);
+    Plot plot;
+    plot.points.push_back({{1, notANumber, 3, infinity, 5}, {1, 2, -infinity, 4, 5}, true});
+    plot.lines.push_back({{0, 6}, {notANumber, notANumber}, "none"});
+    const std::string script = gnuplotScript(plot);
     EXPECT_THAT(script, HasSubstr("<< END\n1 1\n5 5\n"));
     EXPECT_THAT(script, Not(HasSubstr("$layer1")));
     EXPECT_THAT(script, HasSubstr("nohead"));  // its place in the legend is still there
@@ -45,9 +46,9 @@ TEST(GnuplotScript, LeavesOutWhatIsNotFinite)
 TEST(GnuplotScript, ChoosesAxesThatShowEverything)
 {
     const auto axes = [](const std::vector<double>& x, const std::vector<double>& y) {
-        Chart chart;
-        chart.points.push_back({x, y, true});
-        const std::string script = gnuplotScript(chart);
+        Plot plot;
+        plot.points.push_back({x, y, true});
+        const std::string script = gnuplotScript(plot);
         const std::size_t begin = script.find("set xrange");
         return script.substr(begin, script.find("set border") - begin);
     };
@@ -55,39 +56,39 @@ TEST(GnuplotScript, ChoosesAxesThatShowEverything)
     EXPECT_EQ(axes({50, 50}, {0, 0}), "set xrange [45:55]\nset yrange [-1:1]\n");
     EXPECT_EQ(axes({}, {}), "set xrange [-1:1]\nset yrange [-1:1]\n");
     EXPECT_THAT(axes({8, std::nextafter(8, 9)}, {notANumber, 2}), HasSubstr("[7."));
-    EXPECT_THROW(axes({1, 2}, {-1.7e308, 1.7e308}), ChartError);
+    EXPECT_THROW(axes({1, 2}, {-1.7e308, 1.7e308}), PlotError);
 }
 
 TEST(GnuplotScript, DrawsAcrossALevelThatEndsNowhereOrIsTooShortToSee)
 {
-    Chart chart;
-    chart.points.push_back({{5, 5}, {1, 2}, true});
+    Plot plot;
+    plot.points.push_back({{5, 5}, {1, 2}, true});
     for (const auto& [low, high] :
          std::vector<std::pair<double, double>>{{5, 5}, {-infinity, infinity}, {notANumber, notANumber}}) {
-        chart.lines = {{{low, high}, {1.5, 1.5}, "level"}};
-        EXPECT_THAT(gnuplotScript(chart), HasSubstr("4.5 1.5\n5.5 1.5\n"));
+        plot.lines = {{{low, high}, {1.5, 1.5}, "level"}};
+        EXPECT_THAT(gnuplotScript(plot), HasSubstr("4.5 1.5\n5.5 1.5\n"));
     }
-    chart.lines = {{{-infinity, infinity}, {1.5, 1.6}, "slope"}};
-    EXPECT_THAT(gnuplotScript(chart), Not(HasSubstr("1.5\n5.5")));
+    plot.lines = {{{-infinity, infinity}, {1.5, 1.6}, "slope"}};
+    EXPECT_THAT(gnuplotScript(plot), Not(HasSubstr("1.5\n5.5")));
 }
 
 TEST(GnuplotScript, MovesPointsApartOnlyWhereTheChartSaysSo)
 {
-    Chart chart;
-    chart.points.push_back({{1, 2}, {3, 4}, true});
-    EXPECT_THAT(gnuplotScript(chart), HasSubstr("set jitter"));
-    chart.points[0].dodged = false;
-    EXPECT_THAT(gnuplotScript(chart), Not(HasSubstr("set jitter")));
-    chart.points.push_back({{1, 2}, {3, 4}, true});
-    EXPECT_THROW(gnuplotScript(chart), ChartError);
+    Plot plot;
+    plot.points.push_back({{1, 2}, {3, 4}, true});
+    EXPECT_THAT(gnuplotScript(plot), HasSubstr("set jitter"));
+    plot.points[0].dodged = false;
+    EXPECT_THAT(gnuplotScript(plot), Not(HasSubstr("set jitter")));
+    plot.points.push_back({{1, 2}, {3, 4}, true});
+    EXPECT_THROW(gnuplotScript(plot), PlotError);
 }
 
 TEST(GnuplotScript, WritesAsManyMarksAsStandSideBySide)
 {
     const auto distance = [](double low, double high) {
-        Chart chart;
-        chart.lines.push_back({{low, high}, {1, 1}, ""});
-        const std::string script = gnuplotScript(chart);
+        Plot plot;
+        plot.lines.push_back({{low, high}, {1, 1}, ""});
+        const std::string script = gnuplotScript(plot);
         const std::size_t begin = script.find("set xtics ") + 10;
         return script.substr(begin, script.find('\n', begin) - begin);
     };
@@ -99,11 +100,11 @@ TEST(GnuplotScript, WritesAsManyMarksAsStandSideBySide)
 
 TEST(GnuplotScript, DrawsUndodgedPointsOfOnePlaceOnce)
 {
-    Chart chart;
-    chart.points.push_back({{0, 500, 500.0001, 1000}, {0, 500, 500, 1000}, false});
-    EXPECT_THAT(gnuplotScript(chart), HasSubstr("0 0\n500 500\n1000 1000\n"));
-    chart.points[0].dodged = true;
-    EXPECT_THAT(gnuplotScript(chart), HasSubstr("0 0\n500 500\n500.0001 500\n1000 1000\n"));
+    Plot plot;
+    plot.points.push_back({{0, 500, 500.0001, 1000}, {0, 500, 500, 1000}, false});
+    EXPECT_THAT(gnuplotScript(plot), HasSubstr("0 0\n500 500\n1000 1000\n"));
+    plot.points[0].dodged = true;
+    EXPECT_THAT(gnuplotScript(plot), HasSubstr("0 0\n500 500\n500.0001 500\n1000 1000\n"));
 }
 
 }  // namespace

@@ -34,8 +34,8 @@ std::vector<std::string> between(const std::string& text, const std::string& beg
 
 std::string pageOf(const standin::Session& session)
 {
-    PictureBook pictures(session.documents, [](std::size_t, std::size_t) {});
-    return renderHtml({session.documents, session.languageCode, pictures});
+    DrawnPlots plots(session.documents, [](std::size_t, std::size_t) {});
+    return renderHtml({session.documents, session.languageCode, plots});
 }
 
 std::string pageOf(const std::string& csv, const std::string& command, const std::string& language = "en")

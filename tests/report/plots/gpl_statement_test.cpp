@@ -1,5 +1,7 @@
 #include "report/plots/gpl_statement.h"
 
+#include "report/plots/plot_error.h"
+
 #include <gtest/gtest.h>
 
 namespace report {
@@ -38,7 +40,7 @@ std::string reason(const std::string& statement)
 {
     try {
         parseGplStatement(statement);
-    } catch (const GplError& error) {
+    } catch (const PlotError& error) {
         return error.what();
     }
     return "read";

@@ -1,5 +1,7 @@
 #include "report/plots/plot.h"
 
+#include "report/plots/plot_error.h"
+
 #include <gmock/gmock.h>
 
 #include <string>
@@ -38,10 +40,10 @@ public:
         return *this;
     }
 
-    Chart read()
+    Plot read()
     {
         add("GRAPH: end()");
-        return readChart(json_);
+        return readPlot(json_);
     }
 
     /// The reason why the statement cannot be followed, without the statement.
@@ -50,7 +52,7 @@ public:
         add(statement);
         try {
             read();
-        } catch (const ChartError& error) {
+        } catch (const PlotError& error) {
             const std::string reason = error.what();
             const std::string place = "statement 9, " + statement + ": ";
             return reason.starts_with(place) ? reason.substr(place.size()) : reason;
@@ -62,35 +64,35 @@ private:
     rapidjson::Document json_;
 };
 
-TEST(Chart, ShowsWhatItsStatementsSay)
+TEST(Plot, ShowsWhatItsStatementsSay)
 {
-    const Chart chart = Graph()
-                            .add(R"(GUIDE: axis(dim(2),label("up")))")
-                            .add(R"(GUIDE: axis(dim(1),label("across")))")
-                            .add(R"(GUIDE: text.title(label("Title")))")
-                            .add("ELEMENT: point.dodge.symmetric(position(x*y))")
-                            .add("ELEMENT: point(position(y*x))")
-                            .add("ELEMENT: line(position(ends*other),color(c))")
-                            .add("ELEMENT: line(position(ends*other), shape(shape.half_dash))")
-                            .add(R"(GUIDE: text.subsubfootnote(label(" note")))")
-                            .read();
-    EXPECT_THAT((std::vector{chart.title, chart.xLabel, chart.yLabel, chart.footnote}),
+    const Plot plot = Graph()
+                          .add(R"(GUIDE: axis(dim(2),label("up")))")
+                          .add(R"(GUIDE: axis(dim(1),label("across")))")
+                          .add(R"(GUIDE: text.title(label("Title")))")
+                          .add("ELEMENT: point.dodge.symmetric(position(x*y))")
+                          .add("ELEMENT: point(position(y*x))")
+                          .add("ELEMENT: line(position(ends*other),color(c))")
+                          .add("ELEMENT: line(position(ends*other), shape(shape.half_dash))")
+                          .add(R"(GUIDE: text.subsubfootnote(label(" note")))")
+                          .read();
+    EXPECT_THAT((std::vector{plot.title, plot.xLabel, plot.yLabel, plot.footnote}),
                 ElementsAre("Title", "across", "up", " note"));
-    ASSERT_EQ(chart.points.size(), 2U);
-    EXPECT_TRUE(chart.points[0].dodged);
-    EXPECT_FALSE(chart.points[1].dodged);
-    EXPECT_THAT(chart.points[1].x, ElementsAre(4, 5, 6));
-    EXPECT_THAT(chart.points[1].y, ElementsAre(1, 2, 3));
-    ASSERT_EQ(chart.lines.size(), 2U);
-    EXPECT_THAT(chart.lines[0].x, ElementsAre(0, 4));
-    EXPECT_THAT(chart.lines[0].y, ElementsAre(5, 5));
-    EXPECT_EQ(chart.lines[0].legend, "L");
-    EXPECT_FALSE(chart.lines[0].dashed);
-    EXPECT_EQ(chart.lines[1].legend, "");
-    EXPECT_TRUE(chart.lines[1].dashed);
+    ASSERT_EQ(plot.points.size(), 2U);
+    EXPECT_TRUE(plot.points[0].dodged);
+    EXPECT_FALSE(plot.points[1].dodged);
+    EXPECT_THAT(plot.points[1].x, ElementsAre(4, 5, 6));
+    EXPECT_THAT(plot.points[1].y, ElementsAre(1, 2, 3));
+    ASSERT_EQ(plot.lines.size(), 2U);
+    EXPECT_THAT(plot.lines[0].x, ElementsAre(0, 4));
+    EXPECT_THAT(plot.lines[0].y, ElementsAre(5, 5));
+    EXPECT_EQ(plot.lines[0].legend, "L");
+    EXPECT_FALSE(plot.lines[0].dashed);
+    EXPECT_EQ(plot.lines[1].legend, "");
+    EXPECT_TRUE(plot.lines[1].dashed);
 }
 
-TEST(Chart, SaysWhichStatementCannotBeFollowedAndWhy)
+TEST(Plot, SaysWhichStatementCannotBeFollowedAndWhy)
 {
     for (const auto& [statement, reason] : std::vector<std::pair<std::string, std::string>>{
              {"GRAPH: begin", "a call is missing after the colon"},
