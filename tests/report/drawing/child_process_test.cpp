@@ -22,7 +22,6 @@ TEST(ChildProcess, PassesMoreThanAPipeHoldsInBothDirections)
     const std::string errors = runProgram({BLDATMAN_PARROT, "an argument", R"(a "quote\" and \)", "-d"}, input,
                                           [&](std::string_view piece) { output += piece; });
     EXPECT_EQ(errors, "an argument\na \"quote\\\" and \\\n-d\n");
-    EXPECT_EQ(output.size(), input.size());
     EXPECT_TRUE(output == input);
 }
 
