@@ -13,7 +13,7 @@ namespace report {
 struct Report {
     const std::list<rapidjson::Document>& documents;  ///< in the order of delivery, at least one
     std::string language;                             ///< the code that was asked for
-    PictureBook& pictures;                            ///< of these documents
+    DrawnPlots& plots;                                ///< of these documents
 };
 
 }  // namespace report

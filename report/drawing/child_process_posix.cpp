@@ -1,5 +1,7 @@
 #include "report/drawing/child_process.h"
 
+#include "report/plots/plot_error.h"
+
 #include <fcntl.h>
 #include <spawn.h>
 #include <sys/wait.h>
@@ -18,8 +20,8 @@ namespace {
 
 [[noreturn]] void fail(const std::string& program, int error)
 {
-    throw ProcessError(program + (error == ENOENT ? " is not installed"
-                                                  : " cannot be run: " + std::generic_category().message(error)));
+    throw PlotError(program + (error == ENOENT ? " is not installed"
+                                               : " cannot be run: " + std::generic_category().message(error)));
 }
 
 /// A descriptor that is closed with its owner.

@@ -1,5 +1,6 @@
 #include "report/drawing/child_process.h"
 
+#include "report/plots/plot_error.h"
 #include "text/wide_text_windows.h"
 
 #include <windows.h>
@@ -17,7 +18,7 @@ constexpr DWORD longestPath = 32768;
 
 [[noreturn]] void fail(const std::string& program, DWORD error)
 {
-    throw ProcessError(program + " cannot be run: " + text::systemMessage(error));
+    throw PlotError(program + " cannot be run: " + text::systemMessage(error));
 }
 
 /// Where the program stands in the folders of PATH. The system itself would look into the current folder first, and so
@@ -30,7 +31,7 @@ std::wstring found(const std::string& program)
     const DWORD length =
         SearchPathW(folders.c_str(), text::wideText(program).c_str(), L".exe", longestPath, file.data(), nullptr);
     if (length == 0 || length >= longestPath) {
-        throw ProcessError(program + " is not installed");
+        throw PlotError(program + " is not installed");
     }
     file.resize(length);
     return file;

@@ -9,7 +9,7 @@ namespace report {
 
 namespace {
 
-/// Stands alone on a line of both output streams after every script. No picture holds such a line: the texts in one
+/// Stands alone on a line of both output streams after every script. No SVG holds such a line: the texts in one
 /// have none to themselves.
 const std::string endOfScript = "bldatman: end of script";
 
@@ -79,22 +79,22 @@ bool isWhole(const std::string& svg)
 
 }  // namespace
 
-std::vector<Drawing> drawWithGnuplot(const std::vector<std::string>& scripts,
-                                     const std::function<void(std::size_t)>& drawn)
+std::vector<DrawnPlot> drawWithGnuplot(const std::vector<std::string>& scripts,
+                                       const std::function<void(std::size_t)>& drawn)
 {
-    ScriptOutputs pictures;
+    ScriptOutputs svgs;
     ScriptOutputs complaints;
     // No start-up file of the user or of the system has a say.
     complaints.append(runProgram({"gnuplot", "-d"}, joined(scripts), [&](std::string_view piece) {
-        pictures.append(piece);
-        drawn(pictures.completeCount());
+        svgs.append(piece);
+        drawn(svgs.completeCount());
     }));
-    std::vector<Drawing> drawings;
+    std::vector<DrawnPlot> plots;
     for (std::size_t i = 0; i < scripts.size(); ++i) {
-        const std::string svg = pictures.of(i);
-        drawings.push_back(isWhole(svg) ? Drawing{svg, ""} : Drawing{"", reasonIn(complaints.of(i))});
+        const std::string svg = svgs.of(i);
+        plots.push_back(isWhole(svg) ? DrawnPlot{.svg = svg} : DrawnPlot{.reason = reasonIn(complaints.of(i))});
     }
-    return drawings;
+    return plots;
 }
 
 }  // namespace report

@@ -1,6 +1,8 @@
 // Draws with gnuplot.
 #pragma once
 
+#include "report/drawing/drawn_plot.h"
+
 #include <cstddef>
 #include <functional>
 #include <string>
@@ -8,20 +10,14 @@
 
 namespace report {
 
-/// What gnuplot made of one script: a picture, or where that is empty, the reason why there is none.
-struct Drawing {
-    std::string svg;
-    std::string reason;
-};
-
 /// Draws with one process of gnuplot.
 ///
-/// @param scripts  whole lines each, that draw one picture to the standard output; an error in one does not touch the
+/// @param scripts  whole lines each, that draw one plot to the standard output; an error in one does not touch the
 ///                 next, and an empty one draws nothing
 /// @param drawn    told how many scripts are done, as they are
-/// @return         what came of each script, in their order
-/// @throws ProcessError  when gnuplot cannot be run
-std::vector<Drawing> drawWithGnuplot(const std::vector<std::string>& scripts,
-                                     const std::function<void(std::size_t)>& drawn);
+/// @return         of each script, in their order, the SVG as gnuplot writes it, or the reason
+/// @throws PlotError  when gnuplot cannot be run
+std::vector<DrawnPlot> drawWithGnuplot(const std::vector<std::string>& scripts,
+                                       const std::function<void(std::size_t)>& drawn);
 
 }  // namespace report

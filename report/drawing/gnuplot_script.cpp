@@ -3,6 +3,7 @@
 #include "report/drawing/gnuplot_marks.h"
 #include "report/drawing/gnuplot_text.h"
 #include "report/plots/plot_area.h"
+#include "report/plots/plot_error.h"
 #include "report/plots/plot_layout.h"
 
 #include <algorithm>
@@ -33,10 +34,10 @@ std::string fontText(int size)
     return " font '," + std::to_string(size) + "'";
 }
 
-/// The share of the picture's width that gnuplot calls a place so far from the left edge.
+/// The share of the plot's width that gnuplot calls a place so far from the left edge.
 std::string across(int place)
 {
-    return gnuplotNumber(static_cast<double>(place) / PictureLayout::width);
+    return gnuplotNumber(static_cast<double>(place) / PlotLayout::width);
 }
 
 /// How marks are written: so that neighbours differ wherever an axis is drawn.
@@ -45,8 +46,8 @@ constexpr const char* markFormat = "%.12g";
 /// How many numbers of the size of the axis's ends stand side by side below it.
 int mostMarks(const AxisRange& axis)
 {
-    constexpr int axisLength = PictureLayout::width - 130;
-    constexpr int characterWidth = PictureLayout::labelFont * 3 / 5;
+    constexpr int axisLength = PlotLayout::width - 130;
+    constexpr int characterWidth = PlotLayout::labelFont * 3 / 5;
     const double distance = markDistance(axis, 6);
     std::size_t longest = 0;
     for (const double end : {axis.low, axis.high}) {
@@ -57,22 +58,22 @@ int mostMarks(const AxisRange& axis)
     return std::clamp(axisLength / (static_cast<int>(longest + 1) * characterWidth), 3, 8);
 }
 
-/// The commands of one chart, part by part.
+/// The commands of one plot, part by part.
 class ScriptWriter {
 public:
-    explicit ScriptWriter(const Chart& chart)
-        : chart_(chart)
-        , layout_(chart)
-        , area_(chart, PictureLayout::width, PictureLayout::plotHeight)
+    explicit ScriptWriter(const Plot& plot)
+        : plot_(plot)
+        , layout_(plot)
+        , area_(plot, PlotLayout::width, PlotLayout::areaHeight)
     {
     }
 
     std::string write()
     {
-        writePicture();
+        writeFrame();
         writeAxes();
         writeLegend();
-        writeNote(layout_.footnote, PictureLayout::noteLeft, layout_.footnoteTop);
+        writeNote(layout_.footnote, PlotLayout::noteLeft, layout_.footnoteTop);
         writeLayers();
         return std::move(script_);
     }
@@ -80,19 +81,19 @@ public:
 private:
     void command(const std::string& line) { script_ += line + "\n"; }
 
-    /// The share of the picture's height that gnuplot calls a place so far from the top edge.
+    /// The share of the plot's height that gnuplot calls a place so far from the top edge.
     std::string down(int place) const { return gnuplotNumber(1.0 - static_cast<double>(place) / layout_.height); }
 
-    void writePicture()
+    void writeFrame()
     {
         command("reset");
         command("set encoding utf8");
-        command("set terminal svg size " + std::to_string(PictureLayout::width) + "," + std::to_string(layout_.height) +
-                " dynamic noenhanced font 'sans-serif," + std::to_string(PictureLayout::labelFont) + "'");
-        command("set title " + gnuplotText(layout_.title) + fontText(PictureLayout::titleFont) + " offset 0,-0.6");
-        command("set tmargin at screen " + down(layout_.plotTop));
-        command("set bmargin at screen " + down(layout_.plotTop + PictureLayout::plotHeight));
-        command("set rmargin at screen " + across(PictureLayout::width - PictureLayout::rightMargin));
+        command("set terminal svg size " + std::to_string(PlotLayout::width) + "," + std::to_string(layout_.height) +
+                " dynamic noenhanced font 'sans-serif," + std::to_string(PlotLayout::labelFont) + "'");
+        command("set title " + gnuplotText(layout_.title) + fontText(PlotLayout::titleFont) + " offset 0,-0.6");
+        command("set tmargin at screen " + down(layout_.areaTop));
+        command("set bmargin at screen " + down(layout_.areaTop + PlotLayout::areaHeight));
+        command("set rmargin at screen " + across(PlotLayout::width - PlotLayout::rightMargin));
         command("unset key");
     }
 
@@ -110,7 +111,7 @@ private:
 
     /// Gnuplot makes room for every line of the label but puts the middle one where a single one would stand, over the
     /// numbers beside the axis. Its lines are half as high again as the font.
-    int labelShift() const { return static_cast<int>(layout_.yLabel.size() - 1) * PictureLayout::labelFont * 3 / 4; }
+    int labelShift() const { return static_cast<int>(layout_.yLabel.size() - 1) * PlotLayout::labelFont * 3 / 4; }
 
     static std::string lineStyle(const LegendEntry& entry)
     {
@@ -122,11 +123,11 @@ private:
     {
         int top = layout_.legendTop;
         for (const LegendEntry& entry : layout_.legend) {
-            const std::string middle = down(top + PictureLayout::noteLineHeight / 2);
-            command("set arrow from screen " + across(PictureLayout::noteLeft) + "," + middle + " to screen " +
-                    across(PictureLayout::noteLeft + PictureLayout::legendSampleWidth) + "," + middle + " nohead " +
+            const std::string middle = down(top + PlotLayout::noteLineHeight / 2);
+            command("set arrow from screen " + across(PlotLayout::noteLeft) + "," + middle + " to screen " +
+                    across(PlotLayout::noteLeft + PlotLayout::legendSampleWidth) + "," + middle + " nohead " +
                     lineStyle(entry));
-            top = writeNote(entry.text, PictureLayout::legendTextLeft, top);
+            top = writeNote(entry.text, PlotLayout::legendTextLeft, top);
         }
     }
 
@@ -135,8 +136,8 @@ private:
     {
         for (const std::string& line : lines) {
             command("set label " + gnuplotText(line) + " at screen " + across(left) + "," +
-                    down(top + PictureLayout::noteLineHeight / 2) + " left" + fontText(PictureLayout::noteFont));
-            top += PictureLayout::noteLineHeight;
+                    down(top + PlotLayout::noteLineHeight / 2) + " left" + fontText(PlotLayout::noteFont));
+            top += PlotLayout::noteLineHeight;
         }
         return top;
     }
@@ -147,13 +148,13 @@ private:
             // Neighbours stand side by side, at most so far to one side.
             command("set jitter overlap 0.3 spread 1.8 wrap 8");
         }
-        for (const PointLayer& layer : chart_.points) {
+        for (const PointLayer& layer : plot_.points) {
             addLayer(withSentinel(area_.pointsOf(layer)), "points " + std::string(pointMark) +
                                                               (layer.dodged ? " ps 0.7" : " ps 0.5") + " lc rgb '" +
                                                               std::string(pointColour) + "'");
         }
-        for (std::size_t i = 0; i < chart_.lines.size(); ++i) {
-            addLayer(area_.pointsOf(chart_.lines[i]), "lines " + lineStyle(layout_.legend[layout_.entryOfLine[i]]));
+        for (std::size_t i = 0; i < plot_.lines.size(); ++i) {
+            addLayer(area_.pointsOf(plot_.lines[i]), "lines " + lineStyle(layout_.legend[layout_.entryOfLine[i]]));
         }
         command("plot " + (layers_.empty() ? "NaN" : layers_));
         for (std::size_t i = 0; i < layerCount_; ++i) {
@@ -164,9 +165,9 @@ private:
     /// Gnuplot moves all points of a plot apart, or none.
     bool isDodged() const
     {
-        const auto dodged = std::ranges::count(chart_.points, true, &PointLayer::dodged);
-        if (dodged > 0 && static_cast<std::size_t>(dodged) < chart_.points.size()) {
-            throw ChartError("points that are moved apart and points that are not cannot be drawn together");
+        const auto dodged = std::ranges::count(plot_.points, true, &PointLayer::dodged);
+        if (dodged > 0 && static_cast<std::size_t>(dodged) < plot_.points.size()) {
+            throw PlotError("points that are moved apart and points that are not cannot be drawn together");
         }
         return dodged > 0;
     }
@@ -200,8 +201,8 @@ private:
         layers_ += (layers_.empty() ? "" : ", ") + block + " with " + style;
     }
 
-    const Chart& chart_;
-    const PictureLayout layout_;
+    const Plot& plot_;
+    const PlotLayout layout_;
     const PlotArea area_;
     std::string script_;
     std::string layers_;  ///< of the plot command
@@ -210,9 +211,9 @@ private:
 
 }  // namespace
 
-std::string gnuplotScript(const Chart& chart)
+std::string gnuplotScript(const Plot& plot)
 {
-    return ScriptWriter(chart).write();
+    return ScriptWriter(plot).write();
 }
 
 }  // namespace report

@@ -1,4 +1,4 @@
-// A chart as commands for gnuplot.
+// A plot as commands for gnuplot.
 #pragma once
 
 #include "report/plots/plot.h"
@@ -7,12 +7,12 @@
 
 namespace report {
 
-/// The commands that draw the chart once, as SVG to gnuplot's standard output.
+/// The commands that draw the plot once, as SVG to gnuplot's standard output.
 ///
 /// What comes from outside reaches gnuplot as `gnuplotNumber` and `gnuplotText` alone. Values that are not finite are
-/// left out; texts too long for the picture are broken into lines.
+/// left out; texts too long for the plot are broken into lines.
 ///
-/// @throws ChartError  when the values are too large to be drawn
-std::string gnuplotScript(const Chart& chart);
+/// @throws PlotError  when the values are too large to be drawn
+std::string gnuplotScript(const Plot& plot);
 
 }  // namespace report

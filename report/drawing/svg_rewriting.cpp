@@ -1,6 +1,7 @@
 #include "report/drawing/svg_rewriting.h"
 
 #include "report/drawing/gnuplot_marks.h"
+#include "report/plots/plot_error.h"
 
 #include <boost/property_tree/ptree.hpp>
 #include <boost/property_tree/xml_parser.hpp>
@@ -31,7 +32,7 @@ std::string attribute(const ptree& element, const std::string& name)
     return attributes == element.not_found() ? "" : attributes->second.get<std::string>(name, "");
 }
 
-/// Ink becomes the colour of the text around the picture; gnuplot's names and fonts go.
+/// Ink becomes the colour of the text around the plot; gnuplot's names and fonts go.
 ptree rewriteAttributes(const ptree& attributes)
 {
     ptree result;
@@ -57,7 +58,7 @@ ptree circleFor(const ptree& use)
     transform.ignore(wholeLine, '(');
     std::getline(transform, radius, ')');
     if (attribute(use, "xlink:href") != pointMarkInSvg || !transform) {
-        throw SvgError("gnuplot has written a mark that is not known");
+        throw PlotError("gnuplot has written a mark that is not known");
     }
     ptree attributes;
     attributes.push_back({"cx", ptree(x)});
@@ -79,7 +80,7 @@ ptree pointAttributes(const std::string& colour)
 
 ptree rewriteElement(const ptree& element);
 
-/// What a group holds of use to the picture: not its name, its description, marks and an empty background.
+/// What a group holds of use to the plot: not its name, its description, marks and an empty background.
 void appendChildren(ptree& result, const ptree& element)
 {
     for (const auto& [name, child] : element) {
@@ -135,7 +136,7 @@ ptree readXml(const std::string& text)
     try {
         read_xml(stream, tree, boost::property_tree::xml_parser::trim_whitespace);
     } catch (const boost::property_tree::xml_parser_error& error) {
-        throw SvgError("gnuplot has written SVG that cannot be read: " + error.message());
+        throw PlotError("gnuplot has written SVG that cannot be read: " + error.message());
     }
     return tree;
 }
@@ -156,14 +157,14 @@ std::string rewriteSvg(const std::string& svg, const std::string& titleId, const
     const ptree given = readXml(svg);
     const auto root = given.find("svg");
     if (root == given.not_found()) {
-        throw SvgError("gnuplot has written something other than SVG");
+        throw PlotError("gnuplot has written something other than SVG");
     }
-    ptree picture;
-    picture.push_back({attributesKey, rootAttributes(attribute(root->second, "viewBox"), titleId)});
-    picture.push_back({"title", titleElement(titleId, title)});
-    appendChildren(picture, root->second);
+    ptree plot;
+    plot.push_back({attributesKey, rootAttributes(attribute(root->second, "viewBox"), titleId)});
+    plot.push_back({"title", titleElement(titleId, title)});
+    appendChildren(plot, root->second);
     ptree document;
-    document.push_back({"svg", std::move(picture)});
+    document.push_back({"svg", std::move(plot)});
     return writeXml(document);
 }
 

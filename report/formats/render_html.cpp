@@ -2,7 +2,6 @@
 
 #include "report/document/document_view.h"
 #include "report/languages.h"
-#include "report/plots/plot.h"
 #include "report/tables/footnote_marks.h"
 #include "report/tables/header_rows.h"
 #include "report/tables/table_grid.h"
@@ -98,29 +97,19 @@ data tableData(const rapidjson::Value& table, const std::string& id)
     return result;
 }
 
-data plotData(const rapidjson::Value& graph, const Picture& picture, const std::string& id)
+data plotData(const rapidjson::Value& graph, const DrawnPlot& plot, const std::string& id)
 {
     data result("id", id);
     result["name"] = titleOf(graph);
-    result["reason"] = text::printable(picture.reason);
-    result["picture"] = picture.svg.empty() ? data(false) : data(picture.svg);
+    result["reason"] = text::printable(plot.reason);
+    result["svg"] = plot.svg.empty() ? data(false) : data(plot.svg);
     return result;
 }
 
-/// The label of a graph's horizontal axis; empty where its statements cannot be followed.
-std::string horizontalAxis(const rapidjson::Value& graph)
-{
-    try {
-        return readChart(graph).xLabel;
-    } catch (const ChartError&) {
-        return "";
-    }
-}
-
 /// True when two graphs show their points over one horizontal axis, as the differences and the ratios of one pair do.
-bool shareHorizontalAxis(const rapidjson::Value& one, const rapidjson::Value& other)
+bool shareHorizontalAxis(const rapidjson::Value& one, const rapidjson::Value& other, DrawnPlots& plots)
 {
-    return one["data"]["xdata"] == other["data"]["xdata"] && horizontalAxis(one) == horizontalAxis(other);
+    return one["data"]["xdata"] == other["data"]["xdata"] && plots.of(one).xLabel == plots.of(other).xLabel;
 }
 
 /// True when a reader has to find one of several things that are alike, see `renderHtml`.
@@ -137,7 +126,7 @@ bool needsContents(const Report& report)
         }
         if (isGraph(object)) {
             firstGraph = firstGraph == nullptr ? &object : firstGraph;
-            if (!shareHorizontalAxis(*firstGraph, object)) {
+            if (!shareHorizontalAxis(*firstGraph, object, report.plots)) {
                 return true;
             }
         }
@@ -179,7 +168,7 @@ private:
         std::string objects;
         for (const rapidjson::Value& object : document["objects"].GetArray()) {
             const std::string id = "object-" + std::to_string(++objectCount_);
-            objects += isGraph(object) ? plot_.render(plotData(object, report_.pictures.pictureOf(object), id))
+            objects += isGraph(object) ? plot_.render(plotData(object, report_.plots.of(object), id))
                                        : table_.render(tableData(object, id));
             data entry("id", id);
             entry["title"] = titleOf(object);

@@ -8,7 +8,7 @@
 namespace report {
 
 /// One HTML file that needs nothing else: every table and every plot in the order of the documents, plots as SVG, or as
-/// a sentence with the reason where a plot has no picture. A list of contents comes first where one of several things
+/// a sentence with the reason where a plot cannot be drawn. A list of contents comes first where one of several things
 /// that are alike has to be found: more than one document, a table that appears twice, plots over different horizontal
 /// axes.
 std::string renderHtml(const Report& report);

@@ -1,6 +1,6 @@
 #include "report/plots/axis_range.h"
 
-#include "report/plots/plot.h"
+#include "report/plots/plot_error.h"
 
 #include <algorithm>
 #include <cmath>
@@ -53,7 +53,7 @@ AxisRange AxisExtent::range() const
 {
     const double size = std::max(std::abs(low_), std::abs(high_));
     if (!(size <= largestEnd)) {
-        throw ChartError("its values are too large for an axis");
+        throw PlotError("its values are too large for an axis");
     }
     if (high_ - low_ <= size * smallestRelativeWidth) {
         const double around = size > 0.0 ? size / 10 : 1.0;

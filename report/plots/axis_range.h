@@ -1,4 +1,4 @@
-// The stretch of an axis that a chart needs.
+// The stretch of an axis that a plot needs.
 #pragma once
 
 #include <vector>
@@ -23,7 +23,7 @@ public:
 
     /// Never empty: around a single value it is as wide as the value's size suggests, and without any it is -1 to 1.
     ///
-    /// @throws ChartError  when the values are too large to be drawn
+    /// @throws PlotError  when the values are too large to be drawn
     AxisRange range() const;
 
 private:

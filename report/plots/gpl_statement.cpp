@@ -1,5 +1,6 @@
 #include "report/plots/gpl_statement.h"
 
+#include "report/plots/plot_error.h"
 #include "text/wording.h"
 
 #include <algorithm>
@@ -49,7 +50,7 @@ private:
     [[noreturn]] void failExpecting(const std::string& expected) const
     {
         const std::string found = atEnd() ? "the end" : text::inQuotes(statement_.substr(position_, 1));
-        throw GplError("column " + std::to_string(position_ + 1) + ": expected " + expected + ", found " + found);
+        throw PlotError("column " + std::to_string(position_ + 1) + ": expected " + expected + ", found " + found);
     }
 
     bool takeIf(char character)
@@ -151,7 +152,7 @@ private:
                 return {GplExpression::Kind::Text, std::string(statement_.substr(begin, quote - begin)), {}};
             }
         }
-        throw GplError("column " + std::to_string(position_ + 1) + ": the text that begins here does not end");
+        throw PlotError("column " + std::to_string(position_ + 1) + ": the text that begins here does not end");
     }
 
     bool closesItsCall(std::size_t quote) const

@@ -1,4 +1,4 @@
-// One statement of a chart's description, read into a tree.
+// One statement of a graph, read into a tree.
 //
 //     statement  = kind ":" [ variable "=" ] expression
 //     expression = call | product | name | number | text
@@ -10,7 +10,6 @@
 // closed and either the statement ends as well or another call follows as the next argument.
 #pragma once
 
-#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -31,13 +30,7 @@ struct GplStatement {
     GplExpression expression;
 };
 
-/// A statement that cannot be read; `what()` says at which column (in bytes, from 1), what is there and what should be.
-class GplError : public std::runtime_error {
-public:
-    using std::runtime_error::runtime_error;
-};
-
-/// @throws GplError
+/// @throws PlotError  when it cannot be read; says at which column (in bytes, from 1), what is there and what should be
 GplStatement parseGplStatement(std::string_view statement);
 
 }  // namespace report

@@ -2,6 +2,7 @@
 
 #include "report/document/document_view.h"
 #include "report/plots/gpl_statement.h"
+#include "report/plots/plot_error.h"
 #include "text/wording.h"
 
 #include <algorithm>
@@ -19,7 +20,7 @@ using Kind = GplExpression::Kind;
 
 [[noreturn]] void fail(const std::string& reason)
 {
-    throw ChartError(reason);
+    throw PlotError(reason);
 }
 
 /// The only argument of a call, of the given kind.
@@ -68,9 +69,9 @@ std::string labelOf(const GplExpression& call)
     return soleArgument(argument(call, "label"), Kind::Text, "a text").text;
 }
 
-class ChartReader {
+class PlotReader {
 public:
-    explicit ChartReader(const rapidjson::Value& columns)
+    explicit PlotReader(const rapidjson::Value& columns)
         : columns_(columns)
     {
     }
@@ -90,16 +91,16 @@ public:
              text::inQuotes(statement.kind));
     }
 
-    Chart finish()
+    Plot finish()
     {
         if (stage_ != Stage::Ended) {
             fail("the statements end inside the graph");
         }
-        return std::move(chart_);
+        return std::move(plot_);
     }
 
 private:
-    using Handler = void (ChartReader::*)(const GplStatement&);
+    using Handler = void (PlotReader::*)(const GplStatement&);
     struct HandlerEntry {
         std::string_view kind;
         std::string_view function;
@@ -153,19 +154,19 @@ private:
         if (dimension != "1" && dimension != "2") {
             fail("there is no dimension " + dimension);
         }
-        (dimension == "1" ? chart_.xLabel : chart_.yLabel) = labelOf(statement.expression);
+        (dimension == "1" ? plot_.xLabel : plot_.yLabel) = labelOf(statement.expression);
     }
 
     void setTitle(const GplStatement& statement)
     {
         requireOnly(statement.expression, {"label"});
-        chart_.title = labelOf(statement.expression);
+        plot_.title = labelOf(statement.expression);
     }
 
     void setFootnote(const GplStatement& statement)
     {
         requireOnly(statement.expression, {"label"});
-        chart_.footnote = labelOf(statement.expression);
+        plot_.footnote = labelOf(statement.expression);
     }
 
     void addPoints(const GplStatement& statement) { addPointLayer(statement.expression, false); }
@@ -176,7 +177,7 @@ private:
     {
         requireOnly(element, {"position"});
         auto [x, y] = positionOf(element);
-        chart_.points.push_back({std::move(x), std::move(y), dodged});
+        plot_.points.push_back({std::move(x), std::move(y), dodged});
     }
 
     void addLine(const GplStatement& statement)
@@ -191,7 +192,7 @@ private:
             line.category = find(variable).order;
         }
         line.dashed = isDashed(element);
-        chart_.lines.push_back(std::move(line));
+        plot_.lines.push_back(std::move(line));
     }
 
     std::pair<std::vector<double>, std::vector<double>> positionOf(const GplExpression& element)
@@ -286,34 +287,34 @@ private:
     std::map<std::string, Variable> variables_;
     std::size_t categoryCount_ = 0;
     Stage stage_ = Stage::Before;
-    Chart chart_;
+    Plot plot_;
 };
 
-const std::array<ChartReader::HandlerEntry, 10> ChartReader::handlers = {{
-    {"SOURCE", "userSource", &ChartReader::defineSource},
-    {"DATA", "col", &ChartReader::defineVariable},
-    {"GRAPH", "begin", &ChartReader::beginGraph},
-    {"GRAPH", "end", &ChartReader::endGraph},
-    {"GUIDE", "axis", &ChartReader::labelAxis},
-    {"GUIDE", "text.title", &ChartReader::setTitle},
-    {"GUIDE", "text.subsubfootnote", &ChartReader::setFootnote},
-    {"ELEMENT", "point", &ChartReader::addPoints},
-    {"ELEMENT", "point.dodge.symmetric", &ChartReader::addDodgedPoints},
-    {"ELEMENT", "line", &ChartReader::addLine},
+const std::array<PlotReader::HandlerEntry, 10> PlotReader::handlers = {{
+    {"SOURCE", "userSource", &PlotReader::defineSource},
+    {"DATA", "col", &PlotReader::defineVariable},
+    {"GRAPH", "begin", &PlotReader::beginGraph},
+    {"GRAPH", "end", &PlotReader::endGraph},
+    {"GUIDE", "axis", &PlotReader::labelAxis},
+    {"GUIDE", "text.title", &PlotReader::setTitle},
+    {"GUIDE", "text.subsubfootnote", &PlotReader::setFootnote},
+    {"ELEMENT", "point", &PlotReader::addPoints},
+    {"ELEMENT", "point.dodge.symmetric", &PlotReader::addDodgedPoints},
+    {"ELEMENT", "line", &PlotReader::addLine},
 }};
 
 }  // namespace
 
-Chart readChart(const rapidjson::Value& graph)
+Plot readPlot(const rapidjson::Value& graph)
 {
-    ChartReader reader(graph["data"]);
+    PlotReader reader(graph["data"]);
     std::size_t number = 0;
     for (const rapidjson::Value& value : graph["gpl"].GetArray()) {
         ++number;
         const std::string statement = value.IsString() ? textOf(value) : "";
         try {
             reader.follow(parseGplStatement(statement));
-        } catch (const std::runtime_error& error) {
+        } catch (const PlotError& error) {
             fail("statement " + std::to_string(number) + ", " + statement + ": " + error.what());
         }
     }

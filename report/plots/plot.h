@@ -1,10 +1,9 @@
-// What a graph of a document shows, as its statements and its columns say.
+// The plot of a graph, as its statements and its columns say.
 #pragma once
 
 #include <rapidjson/document.h>
 
 #include <cstddef>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -21,11 +20,11 @@ struct LineLayer {
     std::vector<double> x;
     std::vector<double> y;
     std::string legend;        ///< may be empty
-    std::size_t category = 0;  ///< which of the chart's category variables colours it, as defined from 0 on
+    std::size_t category = 0;  ///< which of the plot's category variables colours it, as defined from 0 on
     bool dashed = false;
 };
 
-struct Chart {
+struct Plot {
     std::string title;
     std::string xLabel;
     std::string yLabel;
@@ -34,14 +33,8 @@ struct Chart {
     std::vector<LineLayer> lines;  ///< in the order in which they are drawn
 };
 
-/// A chart whose statements cannot be followed; `what()` says which one and why.
-class ChartError : public std::runtime_error {
-public:
-    using std::runtime_error::runtime_error;
-};
-
 /// @param graph  a graph object of a document
-/// @throws ChartError
-Chart readChart(const rapidjson::Value& graph);
+/// @throws PlotError  when a statement cannot be followed; says which one and why
+Plot readPlot(const rapidjson::Value& graph);
 
 }  // namespace report

@@ -12,7 +12,7 @@ namespace {
 
 constexpr double margin = 0.05;
 
-/// The unit of the drawing on which a value falls.
+/// The unit of the plot on which a value falls.
 int unitOf(double value, const AxisRange& axis, int length)
 {
     return static_cast<int>((value - axis.low) / (axis.high - axis.low) * length);
@@ -37,18 +37,18 @@ bool isLevel(const LineLayer& line)
 
 }  // namespace
 
-PlotArea::PlotArea(const Chart& chart, int width, int height)
+PlotArea::PlotArea(const Plot& plot, int width, int height)
     : width_(width)
     , height_(height)
 {
     AxisExtent x;
     AxisExtent y;
-    for (const PointLayer& layer : chart.points) {
+    for (const PointLayer& layer : plot.points) {
         x.include(layer.x);
         y.include(layer.y);
     }
     x.widen(margin);
-    for (const LineLayer& line : chart.lines) {
+    for (const LineLayer& line : plot.lines) {
         x.include(line.x);
         y.include(line.y);
     }

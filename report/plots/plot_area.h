@@ -1,4 +1,4 @@
-// Of a chart what can be drawn: the stretch of its axes, and the points within it.
+// Of a plot what can be drawn: the stretch of its axes, and the points within it.
 #pragma once
 
 #include "report/plots/axis_range.h"
@@ -16,15 +16,15 @@ struct PlotPoint {
 class PlotArea {
 public:
     /// Shows all finite values, with a margin around the points, and above and below the lines, which reach the ends of
-    /// their axis. `width` and `height` are those of the drawing, in units that can be told apart.
+    /// their axis. `width` and `height` are those of the plot, in units that can be told apart.
     ///
-    /// @throws ChartError  when the values are too large to be drawn
-    PlotArea(const Chart& chart, int width, int height);
+    /// @throws PlotError  when the values are too large to be drawn
+    PlotArea(const Plot& plot, int width, int height);
 
     const AxisRange& xRange() const { return xRange_; }
     const AxisRange& yRange() const { return yRange_; }
 
-    /// The finite points. Of those that are not moved apart and fall on one unit of the drawing, where they look like
+    /// The finite points. Of those that are not moved apart and fall on one unit of the plot, where they look like
     /// one, the first.
     std::vector<PlotPoint> pointsOf(const PointLayer& layer) const;
 

@@ -15,20 +15,19 @@ constexpr std::size_t columnsIn(int room, int font)
     return static_cast<std::size_t>(2 * room / font);
 }
 
-/// The room that a text may take, in the picture's units and in lines; what is longer is cut.
+/// The room that a text may take, in units of the plot and in lines; what is longer is cut.
 struct TextRoom {
     std::size_t columns;
     std::size_t lines;
 };
 
-// The title and the label below the plot stand in its middle, and may reach beyond it to the edge that is nearer.
-constexpr TextRoom titleRoom = {columnsIn(420, PictureLayout::titleFont), 4};
-constexpr TextRoom xLabelRoom = {columnsIn(380, PictureLayout::labelFont), 3};
-constexpr TextRoom yLabelRoom = {columnsIn(PictureLayout::plotHeight, PictureLayout::labelFont), 2};
-constexpr TextRoom legendRoom = {
-    columnsIn(PictureLayout::width - PictureLayout::legendTextLeft - 30, PictureLayout::noteFont), 3};
-constexpr TextRoom footnoteRoom = {
-    columnsIn(PictureLayout::width - PictureLayout::noteLeft - 40, PictureLayout::noteFont), 6};
+// The title and the label below the area stand in its middle, and may reach beyond it to the edge that is nearer.
+constexpr TextRoom titleRoom = {columnsIn(420, PlotLayout::titleFont), 4};
+constexpr TextRoom xLabelRoom = {columnsIn(380, PlotLayout::labelFont), 3};
+constexpr TextRoom yLabelRoom = {columnsIn(PlotLayout::areaHeight, PlotLayout::labelFont), 2};
+constexpr TextRoom legendRoom = {columnsIn(PlotLayout::width - PlotLayout::legendTextLeft - 30, PlotLayout::noteFont),
+                                 3};
+constexpr TextRoom footnoteRoom = {columnsIn(PlotLayout::width - PlotLayout::noteLeft - 40, PlotLayout::noteFont), 6};
 
 // Room between the parts.
 constexpr int titleGap = 12;
@@ -57,21 +56,21 @@ int heightOf(const std::vector<LegendEntry>& legend)
 {
     int height = 0;
     for (const LegendEntry& entry : legend) {
-        height += heightOf(entry.text, PictureLayout::noteLineHeight);
+        height += heightOf(entry.text, PlotLayout::noteLineHeight);
     }
     return height;
 }
 
 }  // namespace
 
-PictureLayout::PictureLayout(const Chart& chart)
-    : title(wrapLabel(chart.title, titleRoom))
-    , xLabel(wrapLabel(chart.xLabel, xLabelRoom))
-    , yLabel(wrapLabel(chart.yLabel, yLabelRoom))
-    , footnote(wrapLabel(chart.footnote, footnoteRoom))
+PlotLayout::PlotLayout(const Plot& plot)
+    : title(wrapLabel(plot.title, titleRoom))
+    , xLabel(wrapLabel(plot.xLabel, xLabelRoom))
+    , yLabel(wrapLabel(plot.yLabel, yLabelRoom))
+    , footnote(wrapLabel(plot.footnote, footnoteRoom))
 {
     std::vector<std::string> legendTexts;
-    for (const LineLayer& line : chart.lines) {
+    for (const LineLayer& line : plot.lines) {
         const auto known = std::ranges::find(legendTexts, line.legend);
         entryOfLine.push_back(static_cast<std::size_t>(known - legendTexts.begin()));
         if (known == legendTexts.end()) {
@@ -79,8 +78,8 @@ PictureLayout::PictureLayout(const Chart& chart)
             legend.push_back({wrapLabel(line.legend, legendRoom), line.category, line.dashed});
         }
     }
-    plotTop = titleGap + heightOf(title, titleLineHeight) + titleGap;
-    legendTop = plotTop + plotHeight + marksHeight + heightOf(xLabel, labelLineHeight) + legendGap;
+    areaTop = titleGap + heightOf(title, titleLineHeight) + titleGap;
+    legendTop = areaTop + areaHeight + marksHeight + heightOf(xLabel, labelLineHeight) + legendGap;
     footnoteTop = legendTop + heightOf(legend) + footnoteGap;
     height = footnoteTop + heightOf(footnote, noteLineHeight) + footnoteGap;
 }

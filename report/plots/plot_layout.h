@@ -1,4 +1,4 @@
-// Where the parts of a chart's picture stand, and its texts broken into the lines that fit there.
+// Where the parts of a plot stand, and its texts broken into the lines that fit there.
 #pragma once
 
 #include "report/plots/plot.h"
@@ -9,22 +9,22 @@
 
 namespace report {
 
-/// One line of the legend: lines of the chart with one legend text are drawn alike and named once.
+/// One line of the legend: lines of the plot with one legend text are drawn alike and named once.
 struct LegendEntry {
     std::vector<std::string> text;  ///< in lines
     std::size_t category;           ///< of the first of its lines
     bool dashed;
 };
 
-/// Narrow, so that its texts can be read on a phone. From top to bottom: title, plot, marks and label of the horizontal
-/// axis, legend, footnote. Lengths are in the picture's own units, pixels when it is shown at full size; places are
+/// Narrow, so that its texts can be read on a phone. From top to bottom: title, area, marks and label of the horizontal
+/// axis, legend, footnote. Lengths are in units of its own, pixels when it is shown at full size; places are
 /// counted from the top edge.
-struct PictureLayout {
-    explicit PictureLayout(const Chart& chart);
+struct PlotLayout {
+    explicit PlotLayout(const Plot& plot);
 
     static constexpr int width = 520;
     static constexpr int rightMargin = 36;  ///< half of the last mark's number stands in it
-    static constexpr int plotHeight = 320;
+    static constexpr int areaHeight = 320;
 
     static constexpr int titleFont = 17;
     static constexpr int labelFont = 15;
@@ -41,9 +41,9 @@ struct PictureLayout {
     std::vector<LegendEntry> legend;
     std::vector<std::string> footnote;
 
-    std::vector<std::size_t> entryOfLine;  ///< for each line of the chart its place in the legend
+    std::vector<std::size_t> entryOfLine;  ///< for each line of the plot its place in the legend
 
-    int plotTop;
+    int areaTop;
     int legendTop;
     int footnoteTop;
     int height;

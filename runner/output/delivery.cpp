@@ -48,8 +48,8 @@ std::vector<std::string> writeOutputs(const std::list<rapidjson::Document>& docu
             line.clear();
         }
     };
-    report::PictureBook pictures(documents, show);
-    const report::Report report{documents, language, pictures};
+    report::DrawnPlots plots(documents, show);
+    const report::Report report{documents, language, plots};
     Failures failures;
     for (const OutputRequest& output : outputs) {
         const Failures more = attempt(shown(output.place), [&] { return output.write(report, output.place); });

@@ -14,12 +14,12 @@ namespace runner {
 
 namespace {
 
-std::string jsonOf(const report::Report& report)
+std::string renderJson(const report::Report& report)
 {
     return report::renderJson(report.documents);
 }
 
-std::string textOf(const report::Report& report)
+std::string renderText(const report::Report& report)
 {
     return report::renderText(report.documents);
 }
@@ -46,8 +46,8 @@ struct OutputFormat {
 
 constexpr std::array<OutputFormat, 4> formats = {{
     {".html", writeWhole<report::renderHtml>},
-    {".json", writeWhole<jsonOf>},
-    {".txt", writeWhole<textOf>},
+    {".json", writeWhole<renderJson>},
+    {".txt", writeWhole<renderText>},
     {"/", writePlotFiles},
 }};
 

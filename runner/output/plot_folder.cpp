@@ -41,22 +41,22 @@ std::string padded(std::size_t number, std::size_t largest)
 }
 
 struct PlotFile {
-    fs::path file;
-    const report::Picture* picture;
+    fs::path path;
+    const report::DrawnPlot* plot;
 
-    bool isDrawn() const { return !picture->svg.empty(); }
+    bool isDrawn() const { return !plot->svg.empty(); }
 };
 
 std::vector<PlotFile> plotFilesOf(const report::Report& report, const fs::path& folder)
 {
     const auto graphs = report::graphsOf(report.documents);
-    std::vector<PlotFile> plots;
+    std::vector<PlotFile> files;
     for (const rapidjson::Value* graph : graphs) {
-        const std::string number = padded(plots.size() + 1, graphs.size());
-        plots.push_back({folder / pathOf(number + "-" + fileNameFor(report::titleOf(*graph)) + ".svg"),
-                         &report.pictures.pictureOf(*graph)});
+        const std::string number = padded(files.size() + 1, graphs.size());
+        files.push_back(
+            {folder / pathOf(number + "-" + fileNameFor(report::titleOf(*graph)) + ".svg"), &report.plots.of(*graph)});
     }
-    return plots;
+    return files;
 }
 
 void makeFolder(const fs::path& folder)
@@ -68,13 +68,13 @@ void makeFolder(const fs::path& folder)
     }
 }
 
-void writePlot(const PlotFile& plot)
+void writePlot(const PlotFile& file)
 {
-    if (!plot.isDrawn()) {
-        throw OutputError(shown(plot.file) + ": cannot be drawn: " + plot.picture->reason);
+    if (!file.isDrawn()) {
+        throw OutputError(shown(file.path) + ": cannot be drawn: " + file.plot->reason);
     }
-    OutputFile output(plot.file);
-    output.write("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n" + plot.picture->svg + "\n");
+    OutputFile output(file.path);
+    output.write("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n" + file.plot->svg + "\n");
     output.commit();
 }
 
@@ -82,18 +82,18 @@ void writePlot(const PlotFile& plot)
 
 std::vector<std::string> writePlotFiles(const report::Report& report, const fs::path& folder)
 {
-    const std::vector<PlotFile> plots = plotFilesOf(report, folder);
+    const std::vector<PlotFile> files = plotFilesOf(report, folder);
     try {
-        if (std::ranges::any_of(plots, &PlotFile::isDrawn)) {
+        if (std::ranges::any_of(files, &PlotFile::isDrawn)) {
             makeFolder(folder);
         }
     } catch (const OutputError& error) {
         return {error.what()};
     }
     std::vector<std::string> failures;
-    for (const PlotFile& plot : plots) {
+    for (const PlotFile& file : files) {
         try {
-            writePlot(plot);
+            writePlot(file);
         } catch (const OutputError& error) {
             failures.emplace_back(error.what());
         }

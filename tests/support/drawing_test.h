@@ -1,7 +1,8 @@
-// For tests that look at pictures.
+// For tests that look at drawn plots.
 #pragma once
 
 #include "report/drawing/child_process.h"
+#include "report/plots/plot_error.h"
 
 #include <gtest/gtest.h>
 
@@ -14,7 +15,7 @@ protected:
     {
         try {
             report::runProgram({"gnuplot", "--version"}, "", [](std::string_view) {});
-        } catch (const report::ProcessError& error) {
+        } catch (const report::PlotError& error) {
             GTEST_SKIP() << error.what();
         }
     }

@@ -48,10 +48,10 @@ Written written()
     tests::Host host("a,b;1.25,2.5;3.75,5;4.5,4.125");
     const auto outcome =
         host.run("VARIABLE=a WITH=b CRITERIA(CILEVEL_MEANDIFF=97.5) PRINT(MEANDIFF) PLOT(REFLINE CI_MEANDIFF)");
-    report::PictureBook pictures(host.session.documents, [](std::size_t, std::size_t) {});
+    report::DrawnPlots plots(host.session.documents, [](std::size_t, std::size_t) {});
     return {report::renderJson(host.session.documents), report::renderText(host.session.documents),
-            report::renderHtml({host.session.documents, "en", pictures}),
-            report::gnuplotScript(report::readChart(host.object(1))), outcome.trace};
+            report::renderHtml({host.session.documents, "en", plots}),
+            report::gnuplotScript(report::readPlot(host.object(1))), outcome.trace};
 }
 
 std::string withPoints(std::string text)

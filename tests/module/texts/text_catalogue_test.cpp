@@ -1,6 +1,7 @@
 #include "module/texts/text_catalogue.h"
 
 #include "module/texts/languages/language_tables.h"
+#include "report/languages.h"
 #include "tests/support/traced_session.h"
 
 #include <gmock/gmock.h>
@@ -105,6 +106,16 @@ TEST(TextCatalogue, HasTheKeysOfTheEnglishTableAndTheirPlaceholdersInEveryLangua
                 << code << ' ' << key;
         }
     }
+}
+
+TEST(TextCatalogue, HasTextsForEveryLanguageThatIsOffered)
+{
+    std::set<std::string> texts;
+    for (const report::Language& language : report::languages) {
+        texts.insert(textIn(std::string(language.code), "Bland-Altman_Analysis_Details (^1 and ^2)", "a", "b"));
+    }
+    EXPECT_EQ(texts.size(), report::languages.size());
+    EXPECT_FALSE(texts.contains("Bland-Altman_Analysis_Details (^1 and ^2)"));
 }
 
 TEST(TextCatalogue, FillsTheFirstOfEachPlaceholderInTurn)

@@ -1,5 +1,7 @@
 #include "report/drawing/child_process.h"
 
+#include "report/plots/plot_error.h"
+
 #include <gmock/gmock.h>
 
 #include <new>
@@ -7,7 +9,6 @@
 
 namespace {
 
-using report::ProcessError;
 using report::runProgram;
 using testing::ThrowsMessage;
 
@@ -21,7 +22,6 @@ TEST(ChildProcess, PassesMoreThanAPipeHoldsInBothDirections)
     const std::string errors = runProgram({BLDATMAN_PARROT, "an argument", R"(a "quote\" and \)", "-d"}, input,
                                           [&](std::string_view piece) { output += piece; });
     EXPECT_EQ(errors, "an argument\na \"quote\\\" and \\\n-d\n");
-    EXPECT_EQ(output.size(), input.size());
     EXPECT_TRUE(output == input);
 }
 
@@ -34,7 +34,7 @@ TEST(ChildProcess, EndsWhenItsReaderGivesUp)
 TEST(ChildProcess, NamesTheProgramThatIsNotThere)
 {
     EXPECT_THAT([] { runProgram({"no-such-program-anywhere"}, "input", [](std::string_view) {}); },
-                ThrowsMessage<ProcessError>("no-such-program-anywhere is not installed"));
+                ThrowsMessage<report::PlotError>("no-such-program-anywhere is not installed"));
 }
 
 }  // namespace

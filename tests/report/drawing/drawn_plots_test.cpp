@@ -1,6 +1,6 @@
 #include "report/drawing/drawn_plots.h"
 
-#include "tests/support/command_run.h"
+#include "tests/report/documents.h"
 #include "tests/support/drawing_test.h"
 
 #include <gmock/gmock.h>
@@ -12,43 +12,38 @@ namespace report {
 namespace {
 
 using testing::AllOf;
+using testing::FieldsAre;
 using testing::HasSubstr;
 using testing::Not;
 using testing::StartsWith;
-using tests::Host;
 
-class PictureBookTest : public tests::DrawingTest {};
+class DrawnPlotsTest : public tests::DrawingTest {};
 
-TEST_F(PictureBookTest, MakesPicturesThatCanStandTogetherInAPage)
+TEST_F(DrawnPlotsTest, CanStandTogetherInAPageOrGiveTheReasonWhyTheyCannot)
 {
-    Host host("A,B,C;10,9,8;12,12,11;14,11,12;12,12,10");
-    host.run("VARIABLE=A WITH=B PLOT(RATIO)");
-    host.run("VARIABLE=A WITH=C");
+    const std::string label = R"(GUIDE: axis(dim(1),label("across")))";
+    const std::string points = "ELEMENT: point(position(x*y))";
+    const auto documents =
+        tests::documentsOf({{"One", tests::graph("unread", {label, "PAGE: begin()"}) + ", " +
+                                        tests::graph("large", {label, points}, "1e303, -1e303, 0")},
+                            {"Two", tests::graph("drawn", {label, points, "ELEMENT: line(position(y*x))",
+                                                           R"(GUIDE: text.title(label("A and C")))"})}});
     std::vector<std::string> progress;
-    PictureBook book(host.session.documents, [&](std::size_t drawn, std::size_t total) {
+    DrawnPlots plots(documents, [&](std::size_t drawn, std::size_t total) {
         progress.push_back(std::to_string(drawn) + "/" + std::to_string(total));
     });
-    const std::string& svg = book.pictureOf(host.object(0)).svg;
-    EXPECT_THAT(svg, StartsWith("<svg "));
-    EXPECT_THAT(svg, HasSubstr(R"(role="img" aria-labelledby="plot-3-title")"));
-    EXPECT_THAT(svg, HasSubstr(R"(><title id="plot-3-title">Bland-Altman Plot of Differences (A-C)</title>)"));
+    const rapidjson::Value& failing = documents.front()["objects"];
+    EXPECT_THAT(plots.of(failing[0]), FieldsAre("", HasSubstr("PAGE: begin(): nothing is known of"), "", ""));
+    EXPECT_THAT(plots.of(failing[1]), FieldsAre("", "its values are too large for an axis", "", "across"));
+    const DrawnPlot& drawn = plots.of(documents.back()["objects"][0]);
+    EXPECT_THAT(drawn, FieldsAre(AllOf(StartsWith("<svg "), HasSubstr("</svg>"),
+                                       HasSubstr(R"(role="img" aria-labelledby="plot-3-title")"),
+                                       HasSubstr(R"(><title id="plot-3-title">A and C</title>)")),
+                                 "", "A and C", "across"));
     for (const char* raw : {" id=\"g", "href", "<desc", "<defs", "<script", "<style", "black", "rgb(0,0,0)"}) {
-        EXPECT_THAT(svg, Not(HasSubstr(raw)));
+        EXPECT_THAT(drawn.svg, Not(HasSubstr(raw)));
     }
     EXPECT_EQ(progress.back(), "3/3");
-}
-
-TEST_F(PictureBookTest, GivesTheReasonWhereThereIsNoPictureAndDrawsTheOthers)
-{
-    Host host("A,\"B\"\"), f(\"\"\",C;1,2,1e303;2,5,-1e303;4,3,4");
-    host.run(R"(VARIABLE=A WITH="B""), f(""" C)");
-    host.run("VARIABLE=A WITH=A C");
-    PictureBook book(host.session.documents, [](std::size_t, std::size_t) {});
-    const rapidjson::Value& objects = host.session.documents.front()["objects"];
-    EXPECT_THAT(book.pictureOf(objects[0]).reason,
-                AllOf(StartsWith("statement 1, SOURCE: "), HasSubstr("nothing is known of \"f\"")));
-    EXPECT_EQ(book.pictureOf(objects[1]).reason, "its values are too large for an axis");
-    EXPECT_EQ(book.pictureOf(objects[1]).svg, "");
 }
 
 }  // namespace

@@ -1,96 +1,42 @@
 #include "report/plots/plot.h"
 
+#include "report/plots/plot_error.h"
+#include "tests/report/documents.h"
+
 #include <gmock/gmock.h>
 
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace report {
 namespace {
 
 using testing::ElementsAre;
+using testing::FieldsAre;
+using testing::ThrowsMessage;
 
-/// A graph as a document has it.
-class Graph {
-public:
-    Graph()
-    {
-        json_.Parse(R"gpl({"name": "g", "data": {"x": [1, 2, 3], "y": [4, 5, 6], "ends": [0, 4], "level": [5, 5],
-                           "legend": ["L", "L"], "mixed": ["L", "M"]}, "gpl": []})gpl");
-        for (const char* statement : {
-                 R"(SOURCE: s = userSource(id("g")))",
-                 R"(DATA: x = col(source(s), name("x")))",
-                 R"(DATA: y = col(source(s), name("y")))",
-                 R"(DATA: ends = col(source(s), name("ends")))",
-                 R"(DATA: other = col(source(s), name("level")))",
-                 R"(DATA: c = col(source(s), name("legend"), unit.category()))",
-                 R"(DATA: m = col(source(s), name("mixed"), unit.category()))",
-                 "GRAPH: begin()",
-             }) {
-            add(statement);
-        }
-    }
-
-    Graph& add(const std::string& statement)
-    {
-        auto& allocator = json_.GetAllocator();
-        json_["gpl"].PushBack(rapidjson::Value(statement, allocator), allocator);
-        return *this;
-    }
-
-    Chart read()
-    {
-        add("GRAPH: end()");
-        return readChart(json_);
-    }
-
-    /// The reason why the statement cannot be followed, without the statement.
-    std::string reasonAgainst(const std::string& statement)
-    {
-        add(statement);
-        try {
-            read();
-        } catch (const ChartError& error) {
-            const std::string reason = error.what();
-            const std::string place = "statement 9, " + statement + ": ";
-            return reason.starts_with(place) ? reason.substr(place.size()) : reason;
-        }
-        return "followed";
-    }
-
-private:
-    rapidjson::Document json_;
-};
-
-TEST(Chart, ShowsWhatItsStatementsSay)
+Plot plotOf(const std::vector<std::string>& statements)
 {
-    const Chart chart = Graph()
-                            .add(R"(GUIDE: axis(dim(2),label("up")))")
-                            .add(R"(GUIDE: axis(dim(1),label("across")))")
-                            .add(R"(GUIDE: text.title(label("Title")))")
-                            .add("ELEMENT: point.dodge.symmetric(position(x*y))")
-                            .add("ELEMENT: point(position(y*x))")
-                            .add("ELEMENT: line(position(ends*other),color(c))")
-                            .add("ELEMENT: line(position(ends*other), shape(shape.half_dash))")
-                            .add(R"(GUIDE: text.subsubfootnote(label(" note")))")
-                            .read();
-    EXPECT_THAT((std::vector{chart.title, chart.xLabel, chart.yLabel, chart.footnote}),
-                ElementsAre("Title", "across", "up", " note"));
-    ASSERT_EQ(chart.points.size(), 2U);
-    EXPECT_TRUE(chart.points[0].dodged);
-    EXPECT_FALSE(chart.points[1].dodged);
-    EXPECT_THAT(chart.points[1].x, ElementsAre(4, 5, 6));
-    EXPECT_THAT(chart.points[1].y, ElementsAre(1, 2, 3));
-    ASSERT_EQ(chart.lines.size(), 2U);
-    EXPECT_THAT(chart.lines[0].x, ElementsAre(0, 4));
-    EXPECT_THAT(chart.lines[0].y, ElementsAre(5, 5));
-    EXPECT_EQ(chart.lines[0].legend, "L");
-    EXPECT_FALSE(chart.lines[0].dashed);
-    EXPECT_EQ(chart.lines[1].legend, "");
-    EXPECT_TRUE(chart.lines[1].dashed);
+    return readPlot(tests::parsed(tests::graph("g", statements)));
 }
 
-TEST(Chart, SaysWhichStatementCannotBeFollowedAndWhy)
+TEST(Plot, ShowsWhatItsStatementsSay)
+{
+    const Plot plot = plotOf({R"(GUIDE: axis(dim(2),label("up")))", R"(GUIDE: axis(dim(1),label("across")))",
+                              R"(GUIDE: text.title(label("Title")))", "ELEMENT: point.dodge.symmetric(position(x*y))",
+                              "ELEMENT: point(position(y*x))", "ELEMENT: line(position(y*x),color(c))",
+                              "ELEMENT: line(position(y*x), shape(shape.half_dash),color(d))",
+                              "ELEMENT: line(position(y*x))", R"(GUIDE: text.subsubfootnote(label(" note")))"});
+    EXPECT_THAT(plot, FieldsAre("Title", "across", "up", " note",
+                                ElementsAre(FieldsAre(ElementsAre(1, 2, 3), ElementsAre(4, 5, 6), true),
+                                            FieldsAre(ElementsAre(4, 5, 6), ElementsAre(1, 2, 3), false)),
+                                ElementsAre(FieldsAre(ElementsAre(4, 5, 6), ElementsAre(1, 2, 3), "L", 0, false),
+                                            FieldsAre(ElementsAre(4, 5, 6), ElementsAre(1, 2, 3), "L", 1, true),
+                                            FieldsAre(ElementsAre(4, 5, 6), ElementsAre(1, 2, 3), "", 0, false))));
+}
+
+TEST(Plot, SaysWhichStatementCannotBeFollowedAndWhy)
 {
     for (const auto& [statement, reason] : std::vector<std::pair<std::string, std::string>>{
              {"GRAPH: begin", "a call is missing after the colon"},
@@ -113,10 +59,14 @@ TEST(Chart, SaysWhichStatementCannotBeFollowedAndWhy)
              {R"(GUIDE: axis(dim(3),label("z")))", "there is no dimension 3"},
              {R"(GUIDE: axis(dim(1),label(x)))", R"("label" takes a text)"},
              {"GUIDE: axis(dim(1)", "column 19: expected \")\", found the end"}}) {
-        EXPECT_EQ(Graph().reasonAgainst(statement), reason) << statement;
+        EXPECT_THAT([&] { plotOf({statement}); },
+                    ThrowsMessage<PlotError>("statement 9, " + statement + ": " + reason));
     }
-    EXPECT_EQ(Graph().add("GRAPH: end()").reasonAgainst("ELEMENT: point(position(x*y))"),
-              "statement 10, ELEMENT: point(position(x*y)): an element stands outside the graph");
+    EXPECT_THAT(
+        [] {
+            plotOf({"GRAPH: end()", "ELEMENT: point(position(x*y))"});
+        },
+        ThrowsMessage<PlotError>("statement 10, ELEMENT: point(position(x*y)): an element stands outside the graph"));
 }
 
 }  // namespace

@@ -2,35 +2,21 @@
 
 #include <gmock/gmock.h>
 
-#include <string>
-#include <vector>
-
 namespace report {
 namespace {
 
+using Kind = HeaderCell::Kind;
 using testing::ElementsAre;
+using testing::FieldsAre;
 
 TEST(HeaderRows, SpanColumnsUnderGroupsAndRowsWithoutThem)
 {
-    const auto shape = [](const TableGrid& grid) {
-        std::vector<std::string> rows;
-        for (const auto& row : headerRowsOf(grid)) {
-            std::string& text = rows.emplace_back();
-            for (const HeaderCell& cell : row) {
-                text += "[" + cell.text + " " + std::to_string(cell.columnCount) + "x" + std::to_string(cell.rowCount) +
-                        "]";
-            }
-        }
-        return rows;
-    };
-    TableGrid grid;
-    grid.columnHeaders = {"a", "b", "c", "d"};
-    EXPECT_THAT(shape(grid), ElementsAre("[ 1x1][a 1x1][b 1x1][c 1x1][d 1x1]"));
-    grid.groupRows = {{{"G", 1, 2}}};
-    grid.rowsLabel = "rows";
-    EXPECT_THAT(shape(grid), ElementsAre("[rows 1x2][a 1x2][G 2x1][d 1x2]", "[b 1x1][c 1x1]"));
-    grid.groupRows = {{{"G", 1, 2}}, {{"H", 2, 2}}};
-    EXPECT_THAT(shape(grid), ElementsAre("[rows 1x3][a 1x3][G 2x1][ 1x1]", "[b 1x2][H 2x1]", "[c 1x1][d 1x1]"));
+    const TableGrid grid = {{{{"G", 1, 2}}, {{"H", 2, 2}}}, {"a", "b", "c", "d"}, "rows", {}, {}};
+    EXPECT_THAT(headerRowsOf(grid),
+                ElementsAre(ElementsAre(FieldsAre(Kind::Corner, "rows", 1, 3), FieldsAre(Kind::Column, "a", 1, 3),
+                                        FieldsAre(Kind::Group, "G", 2, 1), FieldsAre(Kind::Corner, "", 1, 1)),
+                            ElementsAre(FieldsAre(Kind::Column, "b", 1, 2), FieldsAre(Kind::Group, "H", 2, 1)),
+                            ElementsAre(FieldsAre(Kind::Column, "c", 1, 1), FieldsAre(Kind::Column, "d", 1, 1))));
 }
 
 }  // namespace

@@ -2,7 +2,7 @@
 
 #include "text/unicode.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <cstddef>
 #include <string>
@@ -11,14 +11,12 @@
 namespace report {
 namespace {
 
-std::string drawn(const TableGrid& grid, std::size_t width)
-{
-    std::string text;
-    for (const std::string& line : drawTable(grid, width)) {
-        text += line + "\n";
-    }
-    return text;
-}
+using testing::Contains;
+using testing::Each;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::Le;
+using testing::ResultOf;
 
 /// Two limits with an interval each; 63 columns wide when nothing is wrapped.
 TableGrid limits()
@@ -33,19 +31,19 @@ TableGrid limits()
 
 TEST(DrawTable, WrapsHeadersOnlyWhenTheTableIsTooWide)
 {
-    const std::string unwrapped = "        Agreement    95% Interval     Agreement   95% Interval\n"
-                                  "       -----------  ---------------  -----------  -------------\n"
-                                  "       Limit Lower     From      To  Limit Upper   From      To\n"
-                                  "a - b       -78.10  -112.85  -43.34        73.86  39.11  108.62\n"
-                                  "ratio        -0.17    -0.25   -0.10         0.16   0.09    0.24\n";
-    EXPECT_EQ(drawn(limits(), 200), unwrapped);
-    EXPECT_EQ(drawn(limits(), 63), unwrapped);
-    EXPECT_EQ(drawn(limits(), 62), "        Agreement    95% Interval    Agreement  95% Interval\n"
-                                   "       -----------  ---------------  ---------  -------------\n"
-                                   "                                         Limit\n"
-                                   "       Limit Lower     From      To      Upper   From      To\n"
-                                   "a - b       -78.10  -112.85  -43.34      73.86  39.11  108.62\n"
-                                   "ratio        -0.17    -0.25   -0.10       0.16   0.09    0.24\n");
+    const auto unwrapped = ElementsAre("        Agreement    95% Interval     Agreement   95% Interval",
+                                       "       -----------  ---------------  -----------  -------------",
+                                       "       Limit Lower     From      To  Limit Upper   From      To",
+                                       "a - b       -78.10  -112.85  -43.34        73.86  39.11  108.62",
+                                       "ratio        -0.17    -0.25   -0.10         0.16   0.09    0.24");
+    EXPECT_THAT(drawTable(limits(), 200), unwrapped);
+    EXPECT_THAT(drawTable(limits(), 63), unwrapped);
+    EXPECT_THAT(drawTable(limits(), 62), ElementsAre("        Agreement    95% Interval    Agreement  95% Interval",
+                                                     "       -----------  ---------------  ---------  -------------",
+                                                     "                                         Limit",
+                                                     "       Limit Lower     From      To      Upper   From      To",
+                                                     "a - b       -78.10  -112.85  -43.34      73.86  39.11  108.62",
+                                                     "ratio        -0.17    -0.25   -0.10       0.16   0.09    0.24"));
 }
 
 TEST(DrawTable, CutsColumnsBetweenGroupsAndRepeatsRowHeaders)
@@ -54,44 +52,23 @@ TEST(DrawTable, CutsColumnsBetweenGroupsAndRepeatsRowHeaders)
     TableGrid grid = limits();
     grid.groupRows = {{{"all", 0, 6}}, {{"lower", 0, 3}, {"upper", 3, 3}}};
     grid.rowsLabel = "of";
-    EXPECT_EQ(drawn(grid, 48), "                   all\n"
-                               "       ----------------------------\n"
-                               "                  lower\n"
-                               "       ----------------------------\n"
-                               "of     Limit Lower     From      To\n"
-                               "a - b       -78.10  -112.85  -43.34\n"
-                               "ratio        -0.17    -0.25   -0.10\n"
-                               "\n"
-                               "                  all\n"
-                               "       --------------------------\n"
-                               "                 upper\n"
-                               "       --------------------------\n"
-                               "of     Limit Upper   From      To\n"
-                               "a - b        73.86  39.11  108.62\n"
-                               "ratio         0.16   0.09    0.24\n");
+    EXPECT_THAT(drawTable(grid, 48),
+                ElementsAre("                   all", "       ----------------------------", "                  lower",
+                            "       ----------------------------", "of     Limit Lower     From      To",
+                            "a - b       -78.10  -112.85  -43.34", "ratio        -0.17    -0.25   -0.10", "",
+                            "                  all", "       --------------------------", "                 upper",
+                            "       --------------------------", "of     Limit Upper   From      To",
+                            "a - b        73.86  39.11  108.62", "ratio         0.16   0.09    0.24"));
 }
 
-TEST(DrawTable, WrapsRowHeadersAndIndentsTheirLaterLines)
+TEST(DrawTable, WrapsRowHeadersWithAnIndentAndBreaksAWordThatIsTooWideByItself)
 {
-    const TableGrid grid = {{}, {"bias"}, "", {"difference of the meters", "limit"}, {{"-12.345"}, {"0.125"}}};
-    EXPECT_EQ(drawn(grid, 31), "                    bias\n"
-                               "difference of\n"
-                               "  the meters     -12.345\n"
-                               "limit              0.125\n");
-}
-
-TEST(DrawTable, BreaksAWordOfAColumnThatIsTooWideByItself)
-{
-    const TableGrid grid = {{{{"一致の限界", 1, 1}}}, {"a", "WrightPeakFlow"}, "", {"r"}, {{"1.5", "-2.5"}}};
-    EXPECT_EQ(drawn(grid, 12), "     a\n"
-                               "r  1.5\n"
-                               "\n"
-                               "   一致の限\n"
-                               "      界\n"
-                               "   ---------\n"
-                               "   WrightPea\n"
-                               "       kFlow\n"
-                               "r       -2.5\n");
+    const TableGrid rows = {{}, {"bias"}, "", {"difference of the meters", "limit"}, {{"-12.345"}, {"0.125"}}};
+    EXPECT_THAT(drawTable(rows, 31), ElementsAre("                    bias", "difference of",
+                                                 "  the meters     -12.345", "limit              0.125"));
+    const TableGrid words = {{{{"一致の限界", 1, 1}}}, {"a", "WrightPeakFlow"}, "", {"r"}, {{"1.5", "-2.5"}}};
+    EXPECT_THAT(drawTable(words, 12), ElementsAre("     a", "r  1.5", "", "   一致の限", "      界", "   ---------",
+                                                  "   WrightPea", "       kFlow", "r       -2.5"));
 }
 
 TEST(DrawTable, FitsEveryWidthAndLosesNoNumber)
@@ -99,13 +76,11 @@ TEST(DrawTable, FitsEveryWidthAndLosesNoNumber)
     TableGrid grid = limits();
     grid.rowHeaders = {"Wright meter - mini meter", "(身長の測定値-WrightPeakFlowMeter)/平均"};
     for (std::size_t width = 20; width <= 120; ++width) {
-        for (const std::string& line : drawTable(grid, width)) {
-            EXPECT_LE(text::textWidth(line), width) << line;
-        }
-        const std::string text = drawn(grid, width);
+        const std::vector<std::string> lines = drawTable(grid, width);
+        EXPECT_THAT(lines, Each(ResultOf(text::textWidth, Le(width))));
         for (const auto& row : grid.body) {
             for (const std::string& number : row) {
-                EXPECT_NE(text.find(" " + number), std::string::npos) << number << "\n" << text;
+                EXPECT_THAT(lines, Contains(HasSubstr(" " + number))) << width;
             }
         }
     }

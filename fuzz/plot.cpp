@@ -1,7 +1,8 @@
-// The statements of a chart, one to a line, through the drawing up to what gnuplot is told.
+// The statements of a graph, one to a line, through the drawing up to what gnuplot is told.
+#include "report/plots/plot.h"
 #include "fuzz/target.h"
 #include "report/drawing/gnuplot_script.h"
-#include "report/plots/plot.h"
+#include "report/plots/plot_error.h"
 
 #include <rapidjson/document.h>
 
@@ -33,12 +34,12 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
         begin = end + 1;
     }
     graph.AddMember("type", "graph", allocator);
-    graph.AddMember("name", "chart", allocator);
+    graph.AddMember("name", "graph", allocator);
     graph.AddMember("data", columns(allocator), allocator);
     graph.AddMember("gpl", statements, allocator);
     try {
-        report::gnuplotScript(report::readChart(graph));
-    } catch (const report::ChartError&) {  // the reason that stands in the picture's place
+        report::gnuplotScript(report::readPlot(graph));
+    } catch (const report::PlotError&) {  // the reason that stands in the plot's place
     }
     return 0;
 }
