@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <clocale>
+#include <cstdlib>
 #include <string>
 #include <vector>
 
@@ -22,6 +23,9 @@ class CommaLocale : public testing::Test {
 protected:
     void SetUp() override
     {
+#ifdef BLDATMAN_LOCALES  // the folder of a locale made for the tests, where the system may have none
+        ASSERT_EQ(setenv("LOCPATH", BLDATMAN_LOCALES, 1), 0);
+#endif
         for (const char* name : {"de_DE.UTF-8", "German"}) {
             if (std::setlocale(LC_NUMERIC, name) != nullptr && *std::localeconv()->decimal_point == ',') {
                 return;
