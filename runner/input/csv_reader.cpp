@@ -83,7 +83,7 @@ void addCell(Variable& variable, const CsvCell& cell, bool decimalComma)
     } else if (isMissing(cell.raw)) {
         variable.values.push_back(systemMissingValue);
     } else {
-        variable.firstText = standin::TextCell{cell.line, cell.text()};
+        variable.firstText = standin::FirstText{cell.line, cell.text()};
     }
 }
 

@@ -1,41 +1,48 @@
 #include "standin/border/host_call.h"
 
-#include <utility>
+#include <string>
 
 namespace standin {
 
 HostCall::HostCall(Destructor, const void* self, const char* operation) noexcept
     : operation_(operation)
 {
-    if (monitor_ == nullptr) {
-        return;
-    }
-    const auto maker = monitor_->ledger().remove(self);
-    if (!maker) {
-        monitor_->noteBreach(operation, "the object is not alive");
-    }
-    counted_ = maker == Maker::Guest;
-    announce();
-}
-
-void HostCall::creates(const void* object, const char* className)
-{
-    if (monitor_ != nullptr) {
-        monitor_->ledger().add(object, className, counted_ ? Maker::Guest : Maker::Host);
+    if (CallMonitor* monitor = crossing_.monitor()) {
+        const auto maker = monitor->ledger().remove(self);
+        if (!maker) {
+            monitor->noteBreach(operation, "the object is not alive");
+        } else if (*maker == Side::Module) {
+            announce();
+        }
     }
 }
 
-void HostCall::lends(const void* object, const char* className)
+HostCall::HostCall(LoadGetter, const char* operation)
+    : operation_(operation)
 {
-    if (monitor_ != nullptr) {
-        monitor_->ledger().add(object, className, Maker::Host);
+    if (isFromModule()) {
+        announce();
+    }
+}
+
+void HostCall::creates(const void* object)
+{
+    if (CallMonitor* monitor = crossing_.monitor()) {
+        monitor->ledger().add(object, operation_, crossing_.from());
+    }
+}
+
+void HostCall::lends(const void* object)
+{
+    if (CallMonitor* monitor = crossing_.monitor()) {
+        monitor->ledger().add(object, operation_, Side::Host);
     }
 }
 
 void HostCall::retire(const void* object)
 {
-    if (monitor_ != nullptr) {
-        monitor_->ledger().remove(object);
+    if (CallMonitor* monitor = crossing_.monitor()) {
+        monitor->ledger().remove(object);
     }
 }
 
@@ -43,6 +50,12 @@ void HostCall::fail(std::string_view rule) const
 {
     noteBreach(rule);
     throw ContractBreach(std::string(operation_) + ": " + std::string(rule));
+}
+
+bool HostCall::isAlive(const void* object) const
+{
+    const CallMonitor* monitor = crossing_.monitor();
+    return monitor == nullptr || monitor->ledger().isAlive(object);
 }
 
 void HostCall::requireAlive(const void* object, const char* what) const
@@ -54,22 +67,8 @@ void HostCall::requireAlive(const void* object, const char* what) const
 
 void HostCall::noteBreach(std::string_view rule) const noexcept
 {
-    if (monitor_ != nullptr) {
-        monitor_->noteBreach(operation_, rule);
-    }
-}
-
-GuestCall::GuestCall()
-{
-    if (monitor_ != nullptr) {
-        depth_ = std::exchange(monitor_->depth_, 0);
-    }
-}
-
-GuestCall::~GuestCall()
-{
-    if (monitor_ != nullptr) {
-        monitor_->depth_ = depth_;
+    if (CallMonitor* monitor = crossing_.monitor()) {
+        monitor->noteBreach(operation_, rule);
     }
 }
 

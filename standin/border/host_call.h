@@ -8,14 +8,14 @@
 // What a host operation calls on other host objects is the host's own affair and neither counted nor traced.
 #pragma once
 
+#include "standin/border/crossing.h"
 #include "standin/border/trace_arguments.h"
-#include "standin/session/call_monitor.h"
 
-#include <string>
 #include <string_view>
 
 namespace standin {
 
+/// `operation` is a literal: its class and its name, "Table::hide_title".
 class HostCall {
 public:
     /// An operation of `self`, which must be alive; null for a free function or a value without identity. `arguments`
@@ -25,10 +25,10 @@ public:
     HostCall(const void* self, const char* operation, const Arguments&... arguments)
         : operation_(operation)
     {
-        announce(arguments...);
-        if (counted_) {
-            monitor_->countFallible();
-            require(self == nullptr || monitor_->ledger().isAlive(self), "called on an object that is not alive");
+        if (crossing_.isFromModule()) {
+            announce(arguments...);
+            crossing_.monitor()->countFallible();
+            require(self == nullptr || isAlive(self), "called on an object that is not alive");
         }
     }
 
@@ -47,20 +47,16 @@ public:
     HostCall(Destructor, const void* self, const char* operation) noexcept;
 
     /// A getter that is called while the library is loaded. Never throws.
-    HostCall(LoadGetter, const char* operation)
-        : operation_(operation)
-    {
-        announce();
-    }
+    HostCall(LoadGetter, const char* operation);
 
     HostCall(const HostCall&) = delete;
     HostCall& operator=(const HostCall&) = delete;
 
-    /// Enters a new object into the ledger.
-    void creates(const void* object, const char* className);
+    /// Enters the object that this constructor has made into the ledger.
+    void creates(const void* object);
 
     /// Enters an object of the host's own that the module may use until it is retired.
-    void lends(const void* object, const char* className);
+    void lends(const void* object);
     void retire(const void* object);
 
     /// @throws ContractBreach  always, naming the operation
@@ -75,9 +71,10 @@ public:
     }
 
     /// True for a call from the module, false for one from another host operation.
-    bool isFromGuest() const { return fromGuest_; }
+    bool isFromModule() const { return crossing_.isFromModule(); }
 
-    bool isAlive(const void* object) const { return monitor_ == nullptr || monitor_->ledger().isAlive(object); }
+    /// True without a session: then nothing is known of any object.
+    bool isAlive(const void* object) const;
 
     /// Requires an object given as an argument to be alive.
     void requireAlive(const void* object, const char* what) const;
@@ -86,58 +83,19 @@ public:
     void noteBreach(std::string_view rule) const noexcept;
 
 private:
-    /// Whatever happens to the call, the monitor knows when the host has been left again.
-    class Depth {
-    public:
-        explicit Depth(CallMonitor* monitor)
-            : watched_(monitor)
-        {
-            if (watched_ != nullptr) {
-                ++watched_->depth_;
-            }
-        }
-        ~Depth()
-        {
-            if (watched_ != nullptr) {
-                --watched_->depth_;
-            }
-        }
-        Depth(const Depth&) = delete;
-        Depth& operator=(const Depth&) = delete;
-
-    private:
-        CallMonitor* watched_;
-    };
-
+    /// Counts and traces the call. There is a monitor.
     template <class... Arguments>
     void announce(const Arguments&... arguments)
     {
-        if (counted_) {
-            ++monitor_->callCount_;
-            if (monitor_->tracing()) {
-                monitor_->writeTrace(operation_, traceArguments(arguments...));
-            }
+        CallMonitor& monitor = *crossing_.monitor();
+        ++monitor.callCount_;
+        if (monitor.tracing()) {
+            monitor.writeTrace(operation_, traceArguments(arguments...));
         }
     }
 
-    CallMonitor* monitor_ = CallMonitor::current();
-    bool fromGuest_ = monitor_ != nullptr && !monitor_->insideHost();
-    bool counted_ = fromGuest_;  ///< of a destructor, whether the module had made the object
-    Depth depth_{monitor_};
-    const char* operation_ = nullptr;
-};
-
-/// A call from the host back into the module: until it ends, the module is what runs.
-class GuestCall {
-public:
-    GuestCall();
-    ~GuestCall();
-    GuestCall(const GuestCall&) = delete;
-    GuestCall& operator=(const GuestCall&) = delete;
-
-private:
-    CallMonitor* monitor_ = CallMonitor::current();
-    int depth_ = 0;
+    const char* operation_;
+    Crossing crossing_{Side::Host};
 };
 
 }  // namespace standin

@@ -44,9 +44,9 @@ void addChoice(std::vector<std::string>& choice, const std::vector<Description>&
     }
 }
 
-class CommandParser {
+class CommandReader {
 public:
-    CommandParser(const CommandText& text, const CommandDescription& description)
+    CommandReader(const CommandText& text, const CommandDescription& description)
         : reader_(text)
         , description_(description)
         , nameMayBeMissing_(text.nameMayBeMissing)
@@ -55,7 +55,7 @@ public:
         leading_ = unnamed == description.subcommands.end() ? SubcommandDescription{} : *unnamed;
     }
 
-    ParsedCommand parse()
+    ParsedCommand read()
     {
         parseName();
         ParsedCommand command;
@@ -185,7 +185,7 @@ private:
 
 ParsedCommand parseCommand(const CommandText& text, const CommandDescription& description)
 {
-    return CommandParser(text, description).parse();
+    return CommandReader(text, description).read();
 }
 
 }  // namespace standin

@@ -14,7 +14,7 @@
 namespace standin {
 
 /// The first cell of a variable that is neither a number nor missing.
-struct TextCell {
+struct FirstText {
     std::size_t line;  ///< of the data file, from 1
     std::string text;
 };
@@ -24,8 +24,9 @@ struct Variable {
     std::string label;  ///< empty: none
     QUVO_Variable_Enumerations::MeasurementLevel level = QUVO_Variable_Enumerations::LevelScale;
     std::map<double, std::string> valueLabels;
-    std::vector<double> values;         ///< one per case; texts as codes 1, 2, ... in the order of their appearance
-    std::optional<TextCell> firstText;  ///< set where the cells are not all numbers: such a variable cannot be analysed
+    std::vector<double> values;  ///< one per case; texts as codes 1, 2, ... in the order of their appearance
+    std::optional<FirstText>
+        firstText;  ///< set where the cells are not all numbers: such a variable cannot be analysed
 };
 
 struct DataSet {

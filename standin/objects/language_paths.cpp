@@ -16,7 +16,7 @@ OLang::OLang()
 {
     HostCall call(HostCall::Constructor{}, "OLang::OLang");
     data = std::make_unique<Data>(Data{standin::Session::current().languageCode});
-    call.creates(this, "OLang");
+    call.creates(this);
 }
 
 OLang::~OLang()

@@ -5,27 +5,6 @@
 
 namespace standin {
 
-namespace {
-
-CallMonitor* currentMonitor = nullptr;
-
-}  // namespace
-
-CallMonitor::CallMonitor()
-    : previous_(std::exchange(currentMonitor, this))
-{
-}
-
-CallMonitor::~CallMonitor()
-{
-    currentMonitor = previous_;
-}
-
-CallMonitor* CallMonitor::current() noexcept
-{
-    return currentMonitor;
-}
-
 void CallMonitor::failAtCall(long n, std::function<void()> raise)
 {
     failAt_ = fallibleCount_ + n;
@@ -41,7 +20,7 @@ void CallMonitor::noteBreach(std::string_view operation, std::string_view rule) 
 
 void CallMonitor::endCommand()
 {
-    if (const auto alive = ledger_.anyOfGuest()) {
+    if (const auto alive = ledger_.anyOfModule()) {
         noteBreach(*alive, "a host object is still alive after the command");
     }
 }

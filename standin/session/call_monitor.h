@@ -8,6 +8,7 @@
 #include <iosfwd>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 
 namespace standin {
 
@@ -17,18 +18,9 @@ public:
     using std::logic_error::logic_error;
 };
 
-/// Watches what crosses the border between the module and the host. The host finds the monitor of the running session
-/// by itself; without one nothing is watched.
+/// Watches what crosses the border between the module and the host in one session.
 class CallMonitor {
 public:
-    CallMonitor();
-    ~CallMonitor();
-    CallMonitor(const CallMonitor&) = delete;
-    CallMonitor& operator=(const CallMonitor&) = delete;
-
-    /// The youngest monitor that exists, or null.
-    static CallMonitor* current() noexcept;
-
     /// Where every call is written, one line each; null: nowhere. Not owned.
     void traceTo(std::ostream* out) { trace_ = out; }
 
@@ -40,9 +32,10 @@ public:
     long fallibleCount() const { return fallibleCount_; }  ///< those that may fail
 
     /// True while a host operation runs, false in the module, callbacks from the host included.
-    bool insideHost() const { return depth_ > 0; }
+    bool insideHost() const { return running_ == Side::Host; }
 
     ObjectLedger& ledger() { return ledger_; }
+    const ObjectLedger& ledger() const { return ledger_; }
 
     /// The first breach of the contract, empty when there was none. Once there is one, every further call that may fail
     /// raises it again: nothing that comes after a breach can be trusted.
@@ -55,20 +48,19 @@ public:
     void endCommand();
 
 private:
+    friend class Crossing;
     friend class HostCall;
-    friend class GuestCall;
 
     bool tracing() const { return trace_ != nullptr; }
     void writeTrace(const char* operation, const std::string& arguments);
     void countFallible();
 
-    CallMonitor* previous_;
     std::ostream* trace_ = nullptr;
     long callCount_ = 0;
     long fallibleCount_ = 0;
     long failAt_ = 0;
     std::function<void()> raise_;
-    int depth_ = 0;
+    Side running_ = Side::Module;
     std::string breach_;
     ObjectLedger ledger_;
 };

@@ -4,30 +4,31 @@
 
 namespace standin {
 
-void ObjectLedger::add(const void* object, const char* className, Maker maker)
+void ObjectLedger::add(const void* object, const char* operation, Side maker)
 {
-    objects_.insert_or_assign(object, Entry{className, maker});
+    objects_.insert_or_assign(object, Entry{operation, maker});
 }
 
-std::optional<Maker> ObjectLedger::remove(const void* object)
+std::optional<Side> ObjectLedger::remove(const void* object)
 {
     const auto found = objects_.find(object);
     if (found == objects_.end()) {
         return std::nullopt;
     }
-    const Maker maker = found->second.maker;
+    const Side maker = found->second.maker;
     objects_.erase(found);
     return maker;
 }
 
-std::optional<std::string> ObjectLedger::anyOfGuest() const
+std::optional<std::string_view> ObjectLedger::anyOfModule() const
 {
     const auto found =
-        std::ranges::find_if(objects_, [](const auto& object) { return object.second.maker == Maker::Guest; });
+        std::ranges::find_if(objects_, [](const auto& object) { return object.second.maker == Side::Module; });
     if (found == objects_.end()) {
         return std::nullopt;
     }
-    return found->second.className;
+    const std::string_view constructor = found->second.operation;
+    return constructor.substr(0, constructor.rfind("::"));
 }
 
 }  // namespace standin

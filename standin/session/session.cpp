@@ -10,27 +10,32 @@ namespace standin {
 
 namespace {
 
-Session* currentSession = nullptr;
+Session* runningSession = nullptr;
 
 }  // namespace
 
 Session::Session()
-    : previous_(std::exchange(currentSession, this))
+    : previous_(std::exchange(runningSession, this))
 {
     setLanguage("en");
 }
 
 Session::~Session()
 {
-    currentSession = previous_;
+    runningSession = previous_;
+}
+
+Session* Session::running() noexcept
+{
+    return runningSession;
 }
 
 Session& Session::current()
 {
-    if (currentSession == nullptr) {
+    if (runningSession == nullptr) {
         throw std::logic_error("no host session is running");
     }
-    return *currentSession;
+    return *runningSession;
 }
 
 void Session::setLanguage(const std::string& code)

@@ -14,7 +14,7 @@
 
 namespace standin {
 
-/// Host objects find the youngest session by themselves, as the real ones find their host.
+/// Host objects find the session that runs by themselves, as the real ones find their host.
 class Session {
 public:
     Session();
@@ -22,7 +22,11 @@ public:
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
 
-    /// @throws std::logic_error when there is no session: no host object works without one
+    /// The session that runs, the youngest one; null when there is none: then nothing is watched.
+    static Session* running() noexcept;
+
+    /// The session that runs, for what no host object can do without one.
+    /// @throws std::logic_error when there is none
     static Session& current();
 
     /// Sets the output language: the code that the host reports, as it is, and the language folder that goes with it.

@@ -1,6 +1,6 @@
 #include "tests/faults/module_memory.h"
 
-#include "standin/session/call_monitor.h"
+#include "standin/session/session.h"
 
 #include <cstddef>
 #include <cstdlib>
@@ -22,8 +22,8 @@ std::function<void()> note;
 
 bool moduleRuns()
 {
-    const standin::CallMonitor* monitor = standin::CallMonitor::current();
-    return watching && monitor != nullptr && !monitor->insideHost();
+    const standin::Session* session = standin::Session::running();
+    return watching && session != nullptr && !session->monitor.insideHost();
 }
 
 void* allocate(std::size_t size)

@@ -1,6 +1,7 @@
 // The standard error stream, caught.
 #pragma once
 
+#include <iostream>
 #include <sstream>
 #include <string>
 
@@ -9,8 +10,8 @@ namespace tests {
 /// While it lives, what is written to the standard error stream is kept.
 class CapturedErrors {
 public:
-    CapturedErrors();
-    ~CapturedErrors();
+    CapturedErrors() = default;
+    ~CapturedErrors() { std::cerr.rdbuf(previous_); }
     CapturedErrors(const CapturedErrors&) = delete;
     CapturedErrors& operator=(const CapturedErrors&) = delete;
 
@@ -18,7 +19,7 @@ public:
 
 private:
     std::ostringstream captured_;
-    std::streambuf* previous_;
+    std::streambuf* previous_ = std::cerr.rdbuf(captured_.rdbuf());
 };
 
 }  // namespace tests

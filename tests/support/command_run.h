@@ -22,7 +22,7 @@ struct Outcome {
 /// A host with a data set, ready to run commands. Breaches of the contract fail the test.
 class Host : public TracedSession {
 public:
-    explicit Host(const std::string& csv);
+    using TracedSession::TracedSession;
 
     Outcome run(const std::string& command);
 
@@ -34,6 +34,9 @@ public:
 };
 
 /// The calls of a command, as `callsOf` for a trace has them.
-std::vector<std::string> callsOf(const Outcome& outcome, const std::vector<std::string>& prefixes);
+inline std::vector<std::string> callsOf(const Outcome& outcome, const std::vector<std::string>& prefixes)
+{
+    return callsOf(outcome.trace, prefixes);
+}
 
 }  // namespace tests

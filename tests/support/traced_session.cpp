@@ -1,17 +1,72 @@
 #include "tests/support/traced_session.h"
 
-#include "runner/input/csv_reader.h"
+#include "text/numbers.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace tests {
 
 namespace {
 
-std::string withLineEnds(std::string csv)
+std::vector<std::string> cellsOf(const std::string& line)
 {
-    std::ranges::replace(csv, ';', '\n');
-    return csv;
+    std::vector<std::string> cells(1);
+    bool quoted = false;
+    for (std::size_t i = 0; i < line.size(); ++i) {
+        if (line[i] == '"') {
+            quoted = !quoted;
+            cells.back() += quoted && i > 0 && line[i - 1] == '"' ? "\"" : "";
+        } else if (line[i] == ',' && !quoted) {
+            cells.emplace_back();
+        } else {
+            cells.back() += line[i];
+        }
+    }
+    return cells;
+}
+
+void addText(standin::Variable& variable, const std::string& text, std::size_t line)
+{
+    if (!variable.firstText) {
+        variable.level = QUVO_Variable_Enumerations::LevelNominal;
+        variable.firstText = {line, text};
+    }
+    auto& labels = variable.valueLabels;
+    auto label = std::ranges::find(labels, text, [](const auto& known) { return known.second; });
+    if (label == labels.end()) {
+        label = labels.emplace(labels.size() + 1, text).first;
+    }
+    variable.values.push_back(label->first);
+}
+
+void addCell(standin::Variable& variable, const std::string& cell, std::size_t line)
+{
+    const auto number = text::readNumber(cell);
+    if (number || cell.empty() || cell == "." || cell == "NA") {
+        variable.values.push_back(number.value_or(systemMissingValue));
+    } else {
+        addText(variable, cell, line);
+    }
+}
+
+standin::DataSet dataSetOf(const std::string& data)
+{
+    standin::DataSet dataSet;
+    std::istringstream lines(data);
+    std::string line;
+    std::getline(lines, line, ';');
+    for (const std::string& name : cellsOf(line)) {
+        dataSet.variables.emplace_back().name = name;
+    }
+    for (std::size_t number = 2; std::getline(lines, line, ';'); ++number) {
+        const std::vector<std::string> cells = cellsOf(line);
+        for (std::size_t i = 0; i < dataSet.variables.size() && !line.empty(); ++i) {
+            addCell(dataSet.variables[i], cells.at(i), number);
+        }
+        dataSet.caseCount += line.empty() ? 0U : 1U;
+    }
+    return dataSet;
 }
 
 }  // namespace
@@ -21,8 +76,7 @@ std::vector<std::string> callsOf(const std::vector<std::string>& trace, const st
     std::vector<std::string> calls;
     for (std::string line : trace) {
         if (std::ranges::any_of(prefixes, [&line](const auto& prefix) { return line.starts_with(prefix); })) {
-            std::ranges::replace(line, '\t', ' ');
-            calls.push_back(line);
+            calls.push_back(line.replace(line.find('\t'), 1, " "));
         }
     }
     return calls;
@@ -38,25 +92,19 @@ long fallibleCallsUpTo(const std::vector<std::string>& trace, const std::string&
     return fallible;
 }
 
-TracedSession::TracedSession(const std::string& csv)
+TracedSession::TracedSession(const std::string& data)
 {
-    session.dataSet = runner::readCsv(withLineEnds(csv), "test.csv");
+    session.dataSet = dataSetOf(data);
     session.monitor.traceTo(&trace_);
-}
-
-TracedSession::~TracedSession()
-{
-    session.monitor.traceTo(nullptr);
 }
 
 std::vector<std::string> TracedSession::takeTrace()
 {
     std::vector<std::string> lines;
-    std::istringstream stream(trace_.str());
-    for (std::string line; std::getline(stream, line);) {
+    std::istringstream trace(std::exchange(trace_, {}).str());
+    for (std::string line; std::getline(trace, line);) {
         lines.push_back(line);
     }
-    trace_.str("");
     return lines;
 }
 

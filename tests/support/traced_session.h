@@ -17,11 +17,11 @@ long fallibleCallsUpTo(const std::vector<std::string>& trace, const std::string&
 
 class TracedSession {
 public:
-    /// @param csv  the data; semicolons stand for line ends, so that small data fit on a line
-    explicit TracedSession(const std::string& csv = "a");
-    ~TracedSession();
-    TracedSession(const TracedSession&) = delete;
-    TracedSession& operator=(const TracedSession&) = delete;
+    /// @param data  lines that end in semicolons: the names of the variables, then a line for each case. A cell in
+    ///              double quotes may hold commas, and double quotes doubled. "", "." and "NA" are missing; another
+    ///              cell that is no number makes its variable nominal, its texts coded 1, 2, ... as they appear. Empty
+    ///              lines count as lines alone.
+    explicit TracedSession(const std::string& data = "a");
 
     /// The calls since the last time that this was asked.
     std::vector<std::string> takeTrace();

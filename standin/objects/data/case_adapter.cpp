@@ -60,7 +60,7 @@ ACAVarValidSpecs::ACAVarValidSpecs(bool first, bool second, bool third)
 {
     HostCall call(HostCall::Constructor{}, "ACAVarValidSpecs::ACAVarValidSpecs", first, second, third);
     data = std::make_unique<Data>();
-    call.creates(this, "ACAVarValidSpecs");
+    call.creates(this);
 }
 
 ACAVarValidSpecs::~ACAVarValidSpecs()
@@ -89,7 +89,7 @@ ACAInputAdapter::ACAInputAdapter(ACAVarValidSpecs& validSpecs, ProcedureDataSour
     call.requireAlive(&validSpecs, "the validity specification");
     call.requireAlive(&source, "the data source");
     data = std::make_unique<Data>(Data{&validSpecs});
-    call.creates(this, "ACAInputAdapter");
+    call.creates(this);
 }
 
 ACAInputAdapter::~ACAInputAdapter()
@@ -149,7 +149,7 @@ ACAProcDataSourceIter::ACAProcDataSourceIter(ACAInputAdapter& adapter, bool flag
         content->values.resize(data->columns.size());
         record = std::make_unique<RecKit::Record>(std::move(content));
     }
-    call.creates(this, "ACAProcDataSourceIter");
+    call.creates(this);
 }
 
 ACAProcDataSourceIter::~ACAProcDataSourceIter()
@@ -182,6 +182,6 @@ const RecKit::Record* ACAProcDataSourceIter::next()
     RecKit::Record& record = *data->records[data->nextCase % 2];
     data->fill(record);
     ++data->nextCase;
-    call.lends(&record, "RecKit::Record");
+    call.lends(&record);
     return &record;
 }

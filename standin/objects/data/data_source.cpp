@@ -15,7 +15,7 @@ QUVO_ValueLabelMap::QUVO_ValueLabelMap(const QUVO_VLImplPointer& labels)
 {
     HostCall call(HostCall::Constructor{}, "QUVO_ValueLabelMap::QUVO_ValueLabelMap", labels);
     data = std::make_unique<Data>(Data{labels.data->variable});
-    call.creates(this, "QUVO_ValueLabelMap");
+    call.creates(this);
 }
 
 QUVO_ValueLabelMap::~QUVO_ValueLabelMap()
@@ -34,7 +34,7 @@ QUVO_Variable::QUVO_Variable(std::unique_ptr<Data> made)
 {
     HostCall call(HostCall::Constructor{}, "QUVO_Variable::QUVO_Variable");
     data = std::move(made);
-    call.creates(this, "QUVO_Variable");
+    call.creates(this);
 }
 
 QUVO_Variable::QUVO_Variable(const QUVO_Variable& other)
@@ -42,7 +42,7 @@ QUVO_Variable::QUVO_Variable(const QUVO_Variable& other)
     HostCall call(HostCall::Constructor{}, "QUVO_Variable::QUVO_Variable");
     call.requireAlive(&other, "the variable to copy");
     data = std::make_unique<Data>(other.data->variable);
-    call.creates(this, "QUVO_Variable");
+    call.creates(this);
 }
 
 QUVO_Variable::~QUVO_Variable()
@@ -80,14 +80,14 @@ QuvoVarName::QuvoVarName(const char* name)
     HostCall call(HostCall::Constructor{}, "QuvoVarName::QuvoVarName", name);
     call.require(name != nullptr, "the name is null");
     data = std::make_unique<Data>(Data{name, {}});  // NOLINT(clang-analyzer-cplusplus.StringChecker): checked above
-    call.creates(this, "QuvoVarName");
+    call.creates(this);
 }
 
 QuvoVarName::QuvoVarName(const QuvoVarName& other)
 {
     HostCall call(HostCall::Constructor{}, "QuvoVarName::QuvoVarName");
     data = std::make_unique<Data>(*other.data);
-    call.creates(this, "QuvoVarName");
+    call.creates(this);
 }
 
 QuvoVarName& QuvoVarName::operator=(const QuvoVarName& other)

@@ -15,7 +15,7 @@ BpProcedure::BpProcedure(std::string name, int code)
 {
     HostCall call(HostCall::Constructor{}, "BpProcedure::BpProcedure", name, code);
     data = std::make_unique<Data>();
-    call.creates(this, "BpProcedure");
+    call.creates(this);
 }
 
 BpProcedure::~BpProcedure()
@@ -35,7 +35,7 @@ ProcedureDataSource::ProcedureDataSource()
     for (const standin::Variable& variable : standin::Session::current().dataSet.variables) {
         data->variables.push_back(std::make_unique<QUVO_Variable>(std::make_unique<QUVO_Variable::Data>(&variable)));
     }
-    call.creates(this, "ProcedureDataSource");
+    call.creates(this);
 }
 
 ProcedureDataSource::~ProcedureDataSource()

@@ -4,7 +4,6 @@
 #include "host/data_source.h"
 #include "standin/data/data_set.h"
 
-#include <optional>
 #include <string>
 
 struct QUVO_VLImplPointer::Data {

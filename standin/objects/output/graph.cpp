@@ -44,7 +44,7 @@ StatGPLGraph::StatGPLGraph(StatJSONGenerator* generator, const std::string& name
     data = std::make_unique<Data>();
     data->generator = generator;
     data->name = name;
-    call.creates(this, "StatGPLGraph");
+    call.creates(this);
 }
 
 StatGPLGraph::~StatGPLGraph()
@@ -92,7 +92,7 @@ void StatGPLGraph::addGPLGraphToProcedureJSON()
     graph.AddMember("name", rapidjson::Value(data->name, allocator), allocator);
     graph.AddMember("data", columnsOf(*data, allocator), allocator);
     {
-        const standin::GuestCall guest;
+        const standin::Crossing intoTheModule(standin::Side::Module);
         writeGPL(graph, allocator);
     }
     call.require(graph.HasMember("gpl") && graph["gpl"].IsArray(), "the chart wrote no statements");

@@ -16,7 +16,7 @@ StatJSONGenerator::StatJSONGenerator(const std::string& title, const std::string
     document.SetObject();
     document.AddMember("title", rapidjson::Value(title, document.GetAllocator()), document.GetAllocator());
     document.AddMember("objects", rapidjson::Value(rapidjson::kArrayType), document.GetAllocator());
-    call.creates(this, "StatJSONGenerator");
+    call.creates(this);
 }
 
 StatJSONGenerator::~StatJSONGenerator()
@@ -45,7 +45,7 @@ StatJSONConverter::StatJSONConverter(BpProcedure& procedure)
     HostCall call(HostCall::Constructor{}, "StatJSONConverter::StatJSONConverter", procedure);
     call.requireAlive(&procedure, "the procedure");
     data = std::make_unique<Data>(Data{&procedure});
-    call.creates(this, "StatJSONConverter");
+    call.creates(this);
 }
 
 StatJSONConverter::~StatJSONConverter()
@@ -72,7 +72,7 @@ OPSCommonOutput::OPSCommonOutput(ACAVarValidSpecs* validSpecs, ProcedureDataSour
     call.requireAlive(validSpecs, "the validity specification");
     call.requireAlive(&source, "the data source");
     call.requireAlive(procedure, "the procedure");
-    call.creates(this, "OPSCommonOutput");
+    call.creates(this);
 }
 
 OPSCommonOutput::~OPSCommonOutput()

@@ -88,7 +88,7 @@ Table::Table(StatJSONGenerator* generator, std::string& name)
     data = std::make_unique<Data>();
     data->generator = generator;
     data->name = name;
-    call.creates(this, "Table");
+    call.creates(this);
 }
 
 Table::~Table()

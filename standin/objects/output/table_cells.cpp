@@ -51,9 +51,9 @@ bool holds(const Cell* cell, const Descendants* group)
 }
 
 /// A cell that a host object has taken over is no longer the module's to delete.
-void refuseToLose(const HostCall& call, const Cell::Data& cell)
+void noteForeignDeletion(const HostCall& call, const Cell::Data& cell)
 {
-    if (cell.added && call.isFromGuest()) {
+    if (cell.added && call.isFromModule()) {
         call.noteBreach("the module deleted what a host object owns");
     }
 }
@@ -72,7 +72,7 @@ Cell::Cell(Table* table, CellType type)
 {
     HostCall call(HostCall::Constructor{}, "Cell::Cell", table, type);
     data = std::make_unique<Data>(Data{documentOf(call, table), false, {}, {}});
-    call.creates(this, "Cell");
+    call.creates(this);
 }
 
 Cell::Cell() = default;
@@ -83,7 +83,7 @@ Cell::~Cell()
         return;  // a group, which has announced itself, or one whose construction failed
     }
     HostCall call(HostCall::Destructor{}, this, "Cell::~Cell");
-    refuseToLose(call, *data);
+    noteForeignDeletion(call, *data);
     data.reset();
 }
 
@@ -116,13 +116,13 @@ Descendants::Descendants(Table* table)
 {
     HostCall call(HostCall::Constructor{}, "Descendants::Descendants", table);
     data = std::make_unique<Data>(Data{documentOf(call, table), false, {}, GroupData{}});
-    call.creates(this, "Descendants");
+    call.creates(this);
 }
 
 Descendants::~Descendants()
 {
     HostCall call(HostCall::Destructor{}, this, "Descendants::~Descendants");
-    refuseToLose(call, *data);
+    noteForeignDeletion(call, *data);
     for (const Cell* child : data->group->children) {
         deleteIfAlive(call, child);
     }
@@ -178,7 +178,7 @@ Dimension::Dimension(Table* table, Descendants* rows, Descendants* columns)
     data = std::make_unique<Data>(Data{rows, columns});
     rows->data->added = true;
     columns->data->added = true;
-    call.creates(this, "Dimension");
+    call.creates(this);
 }
 
 Dimension::~Dimension()
@@ -194,7 +194,7 @@ Cells::Cells(Table* table)
     HostCall call(HostCall::Constructor{}, "Cells::Cells", table);
     call.requireAlive(table, "the table");
     data = std::make_unique<Data>();
-    call.creates(this, "Cells");
+    call.creates(this);
 }
 
 Cells::~Cells()

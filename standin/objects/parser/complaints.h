@@ -14,9 +14,9 @@ inline std::string namedIn(const std::string& variable, const std::string& param
 }
 
 /// Where the first text of a column stands, and what to do about it.
-inline std::string whereTextStands(const TextCell& cell)
+inline std::string whereTextStands(const FirstText& first)
 {
-    return "line " + std::to_string(cell.line) + " of the data holds " + text::inQuotes(cell.text) +
+    return "line " + std::to_string(first.line) + " of the data holds " + text::inQuotes(first.text) +
            "; correct it, or leave the cell empty where a value is missing";
 }
 

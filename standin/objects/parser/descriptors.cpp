@@ -27,7 +27,7 @@ ParamDescriptor::ParamDescriptor(const std::string& name, UPSpecTypes::ParamSpec
     data->description.kind = kind;
     data->description.required = required;
     data->description.brackets = brackets;
-    call.creates(this, "ParamDescriptor");
+    call.creates(this);
 }
 
 ParamDescriptor::ParamDescriptor(const ParamDescriptor& other)
@@ -35,7 +35,7 @@ ParamDescriptor::ParamDescriptor(const ParamDescriptor& other)
     HostCall call(HostCall::Constructor{}, "ParamDescriptor::ParamDescriptor");
     call.requireAlive(&other, "the descriptor to copy");
     data = std::make_unique<Data>(*other.data);
-    call.creates(this, "ParamDescriptor");
+    call.creates(this);
 }
 
 ParamDescriptor::~ParamDescriptor()
@@ -92,7 +92,7 @@ SubComDescriptor::SubComDescriptor(const std::string& name, UPSpecTypes::SubComS
     HostCall call(HostCall::Constructor{}, "SubComDescriptor::SubComDescriptor", name, kind, first, second);
     data = std::make_unique<Data>();
     data->description.name = name;
-    call.creates(this, "SubComDescriptor");
+    call.creates(this);
 }
 
 SubComDescriptor::SubComDescriptor(const SubComDescriptor& other)
@@ -100,7 +100,7 @@ SubComDescriptor::SubComDescriptor(const SubComDescriptor& other)
     HostCall call(HostCall::Constructor{}, "SubComDescriptor::SubComDescriptor");
     call.requireAlive(&other, "the descriptor to copy");
     data = std::make_unique<Data>(*other.data);
-    call.creates(this, "SubComDescriptor");
+    call.creates(this);
 }
 
 SubComDescriptor::~SubComDescriptor()
@@ -128,7 +128,7 @@ CommandDescriptor::CommandDescriptor(const std::string& name)
     HostCall call(HostCall::Constructor{}, "CommandDescriptor::CommandDescriptor", name);
     data = std::make_unique<Data>();
     data->description.name = name;
-    call.creates(this, "CommandDescriptor");
+    call.creates(this);
 }
 
 CommandDescriptor::~CommandDescriptor()

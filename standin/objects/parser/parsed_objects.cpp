@@ -18,7 +18,7 @@ ParamObj::ParamObj(std::unique_ptr<Data> made)
 {
     HostCall call(HostCall::Constructor{}, "ParamObj::ParamObj");
     data = std::move(made);
-    call.creates(this, "ParamObj");
+    call.creates(this);
 }
 
 ParamObj::ParamObj(const ParamObj& other)
@@ -26,7 +26,7 @@ ParamObj::ParamObj(const ParamObj& other)
     HostCall call(HostCall::Constructor{}, "ParamObj::ParamObj");
     call.requireAlive(&other, "the parameter to copy");
     data = std::make_unique<Data>(*other.data);
-    call.creates(this, "ParamObj");
+    call.creates(this);
 }
 
 ParamObj& ParamObj::operator=(const ParamObj& other)
@@ -164,7 +164,7 @@ SubComObj::SubComObj(std::unique_ptr<Data> made)
 {
     HostCall call(HostCall::Constructor{}, "SubComObj::SubComObj");
     data = std::move(made);
-    call.creates(this, "SubComObj");
+    call.creates(this);
 }
 
 SubComObj::~SubComObj()
@@ -191,7 +191,7 @@ CommandSpec::CommandSpec()
 {
     HostCall call(HostCall::Constructor{}, "CommandSpec::CommandSpec");
     data = std::make_unique<Data>();
-    call.creates(this, "CommandSpec");
+    call.creates(this);
 }
 
 CommandSpec::~CommandSpec()

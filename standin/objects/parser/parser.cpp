@@ -21,7 +21,7 @@ QUVO_TokenSequence::QUVO_TokenSequence(bool flag)
 {
     HostCall call(HostCall::Constructor{}, "QUVO_TokenSequence::QUVO_TokenSequence", flag);
     data = std::make_unique<Data>(Data{Session::current().command});
-    call.creates(this, "QUVO_TokenSequence");
+    call.creates(this);
 }
 
 QUVO_TokenSequence::~QUVO_TokenSequence()
@@ -45,7 +45,7 @@ UniversalParser::UniversalParser(QUVO_TokenSequenceBase& tokens, CommandSpec& co
     call.requireAlive(&description, "the description");
     const auto& sequence = dynamic_cast<QUVO_TokenSequence&>(tokens);
     data = std::make_unique<Data>(Data{&sequence, &command, &description});
-    call.creates(this, "UniversalParser");
+    call.creates(this);
 }
 
 UniversalParser::~UniversalParser()

@@ -17,7 +17,7 @@ ParserMessage::ParserMessage()
 {
     HostCall call(HostCall::Constructor{}, "ParserMessage::ParserMessage");
     data = std::make_unique<Data>();
-    call.creates(this, "ParserMessage");
+    call.creates(this);
 }
 
 ParserMessage::~ParserMessage()

@@ -13,7 +13,6 @@
 using standin::HostCall;
 using standin::namedIn;
 using standin::Session;
-using text::inQuotes;
 
 struct VarSpecObj::Data {
     std::string parameter;
@@ -30,7 +29,7 @@ VarSpecObj::VarSpecObj(const std::string& parameter, const std::string& subcomma
     call.requireAlive(&description, "the description");
     call.requireAlive(source, "the data source");
     data = std::make_unique<Data>(Data{parameter, {}});
-    call.creates(this, "VarSpecObj");
+    call.creates(this);
 }
 
 VarSpecObj::~VarSpecObj()

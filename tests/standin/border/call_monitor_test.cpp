@@ -48,7 +48,7 @@ public:
 
     void writeGPL(rapidjson::Value& graph, rapidjson::MemoryPoolAllocator<rapidjson::CrtAllocator>& allocator) override
     {
-        insideHost = CallMonitor::current()->insideHost();
+        insideHost = Session::current().monitor.insideHost();
         rapidjson::Value statements(rapidjson::kArrayType);
         statements.PushBack(rapidjson::Value(getName(), allocator), allocator);
         graph.AddMember("gpl", statements, allocator);
