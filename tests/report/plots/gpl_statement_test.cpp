@@ -46,7 +46,7 @@ TEST(GplStatement, ReadsAssignmentsCallsProductsNamesNumbersAndTexts)
 TEST(GplStatement, EndsATextAtAQuoteThatClosesItsCallOnly)
 {
     for (const std::string text : {R"(a"b)", R"("")", R"(a" and "b")", R"(a") b)", R"(a")) and b"))", R"(a"),b)",
-                                   R"(a", label("b)", R"(a\" \)", "a'b", ")", "\"", R"(a") and "b)"}) {
+                                   R"(a", label("b)", R"(a\" \)", "a'b", ")", "\"", R"(a") and "b)", R"(a")), f("b)"}) {
         EXPECT_EQ(shape("GUIDE: axis(dim(1),label(\"" + text + "\"))"),
                   "GUIDE||(axis (dim #1) (label <" + text + ">))");
     }

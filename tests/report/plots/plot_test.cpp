@@ -67,6 +67,8 @@ TEST(Plot, SaysWhichStatementCannotBeFollowedAndWhy)
             plotOf({"GRAPH: end()", "ELEMENT: point(position(x*y))"});
         },
         ThrowsMessage<PlotError>("statement 10, ELEMENT: point(position(x*y)): an element stands outside the graph"));
+    EXPECT_THAT([] { readPlot(tests::parsed("{'data': {}, 'gpl': ['GRAPH: begin()']}")); },
+                ThrowsMessage<PlotError>("the statements end inside the graph"));
 }
 
 }  // namespace
