@@ -57,6 +57,12 @@ TEST_F(DrawnHtml, ShowsNamesAsTheyAreWhateverTheyHold)
                             ": column 7: expected a name, a number or a text, found &quot;&lt;&quot;.</span"));
 }
 
+TEST(Html, KeepsAHiddenTitleForThoseWhoCannotSee)
+{
+    const std::string page = pageOf(tests::documentsOf({{"", table({"t"}) + "," + table({})}}));
+    EXPECT_THAT(between(page, "<caption", ">"), ElementsAre("", " class=\"hidden\""));
+}
+
 TEST(Html, ListsItsContentsWhereThingsAreAlike)
 {
     const std::string mean = R"(GUIDE: axis(dim(1),label("Mean")))";
