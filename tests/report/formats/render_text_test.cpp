@@ -36,10 +36,10 @@ TEST(RenderText, AlignsCellsBelowTheLabelsOfTheirGroups)
     };
     for (const auto& [rows, columns, cells, text] : std::vector<Case>{
              {group("'lines'", "{'value': '身長'}, {'value': 'é'}, {'value': 'e\\u0301x'}"),
-              group("' '", "{'value': '平均値'}, {'value': 'n'}"), "[-1234.5, 1], [0.125, 'ok'], ['欠', -2]",
+              group("' '", "{'value': '平均値'}, {'value': 'n'}"), "[-1234.5, 1], [0.125, 'o\\tk'], ['欠', -2]",
               "lines    平均値      n\n"
               "身長   -1234.50   1.00\n"
-              "é          0.12     ok\n"
+              "é          0.12    o k\n"
               "e\xCC\x81x           欠  -2.00\n"},
              {twoRows, group("'all'", "{'value': 'mean'}, " + limits + ", " + hidden), "[1, 2, 3, 4], [5, 6, 7, 8]",
               "             all\n"
