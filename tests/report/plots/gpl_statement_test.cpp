@@ -65,7 +65,7 @@ TEST(GplStatement, SaysWhereItCannotBeRead)
              {"X: f(a*)", "column 8: expected a name, found \")\""},
              {"X: f(label(\"a)", "column 12: the text that begins here does not end"},
              {"X: f(label(\"a\")", "column 12: the text that begins here does not end"}}) {
-        EXPECT_THAT([&] { parseGplStatement(statement); }, testing::ThrowsMessage<PlotError>(reason));
+        EXPECT_THAT([&text = statement] { parseGplStatement(text); }, testing::ThrowsMessage<PlotError>(reason));
     }
 }
 

@@ -59,7 +59,7 @@ TEST(Plot, SaysWhichStatementCannotBeFollowedAndWhy)
              {R"(GUIDE: axis(dim(3),label("z")))", "there is no dimension 3"},
              {R"(GUIDE: axis(dim(1),label(x)))", R"("label" takes a text)"},
              {"GUIDE: axis(dim(1)", "column 19: expected \")\", found the end"}}) {
-        EXPECT_THAT([&] { plotOf({statement}); },
+        EXPECT_THAT([&added = statement] { plotOf({added}); },
                     ThrowsMessage<PlotError>("statement 9, " + statement + ": " + reason));
     }
     EXPECT_THAT(
