@@ -58,6 +58,7 @@ inline std::string table(const TableParts& parts)
 }
 
 /// The statements stand inside the graph, from the ninth on, after those that name its columns.
+/// @param x  the numbers of the column x
 inline std::string graph(const std::string& name, const std::vector<std::string>& statements,
                          const std::string& x = "1, 2, 3")
 {

@@ -47,14 +47,20 @@ TEST_F(DrawnHtml, ShowsNamesAsTheyAreWhateverTheyHold)
     const std::string label = "'" + name + "'";
     const std::string leaf = "{'value': " + label + "}";
     const std::string page = pageOf(tests::documentsOf(
-        {{name, table({name, tests::group("null", leaf), tests::group(label, leaf), "[" + label + "]", label}) + ", " +
+        {{name, table({name, tests::group(label, leaf), tests::group(label, leaf), "[" + label + "]", label}) + ", " +
                     graph(name, {"GUIDE: axis(dim(1),label(\"" + name + "\"))"}) + ", " +
                     graph(name, {"PAGE: " + name})}}));
     EXPECT_THAT(page, Not(HasSubstr("<script")));
     EXPECT_THAT(between(page, "&lt;script&gt;&quot;{{x}}", ">"),
-                ElementsAre("</title", "</h1", "</a", "</a", "</a", "</span", "</th", "</th", "</th", "</td", "</p",
-                            "</text", "</strong",
+                ElementsAre("</title", "</h1", "</a", "</a", "</a", "</span", "</th", "</th", "</th", "</th", "</td",
+                            "</p", "</text", "</strong",
                             ": column 7: expected a name, a number or a text, found &quot;&lt;&quot;.</span"));
+}
+
+TEST(Html, KeepsAHiddenTitleForThoseWhoCannotSee)
+{
+    const std::string page = pageOf(tests::documentsOf({{"", table({"t"}) + "," + table({})}}));
+    EXPECT_THAT(between(page, "<caption", ">"), ElementsAre("", " class=\"hidden\""));
 }
 
 TEST(Html, ListsItsContentsWhereThingsAreAlike)

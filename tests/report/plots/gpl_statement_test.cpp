@@ -46,7 +46,7 @@ TEST(GplStatement, ReadsAssignmentsCallsProductsNamesNumbersAndTexts)
 TEST(GplStatement, EndsATextAtAQuoteThatClosesItsCallOnly)
 {
     for (const std::string text : {R"(a"b)", R"("")", R"(a" and "b")", R"(a") b)", R"(a")) and b"))", R"(a"),b)",
-                                   R"(a", label("b)", R"(a\" \)", "a'b", ")", "\"", R"(a") and "b)"}) {
+                                   R"(a", label("b)", R"(a\" \)", "a'b", ")", "\"", R"(a") and "b)", R"(a")), f("b)"}) {
         EXPECT_EQ(shape("GUIDE: axis(dim(1),label(\"" + text + "\"))"),
                   "GUIDE||(axis (dim #1) (label <" + text + ">))");
     }
@@ -65,7 +65,7 @@ TEST(GplStatement, SaysWhereItCannotBeRead)
              {"X: f(a*)", "column 8: expected a name, found \")\""},
              {"X: f(label(\"a)", "column 12: the text that begins here does not end"},
              {"X: f(label(\"a\")", "column 12: the text that begins here does not end"}}) {
-        EXPECT_THAT([&] { parseGplStatement(statement); }, testing::ThrowsMessage<PlotError>(reason));
+        EXPECT_THAT([&text = statement] { parseGplStatement(text); }, testing::ThrowsMessage<PlotError>(reason));
     }
 }
 

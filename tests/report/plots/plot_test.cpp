@@ -59,7 +59,7 @@ TEST(Plot, SaysWhichStatementCannotBeFollowedAndWhy)
              {R"(GUIDE: axis(dim(3),label("z")))", "there is no dimension 3"},
              {R"(GUIDE: axis(dim(1),label(x)))", R"("label" takes a text)"},
              {"GUIDE: axis(dim(1)", "column 19: expected \")\", found the end"}}) {
-        EXPECT_THAT([&] { plotOf({statement}); },
+        EXPECT_THAT([&added = statement] { plotOf({added}); },
                     ThrowsMessage<PlotError>("statement 9, " + statement + ": " + reason));
     }
     EXPECT_THAT(
@@ -67,6 +67,8 @@ TEST(Plot, SaysWhichStatementCannotBeFollowedAndWhy)
             plotOf({"GRAPH: end()", "ELEMENT: point(position(x*y))"});
         },
         ThrowsMessage<PlotError>("statement 10, ELEMENT: point(position(x*y)): an element stands outside the graph"));
+    EXPECT_THAT([] { readPlot(tests::parsed("{'data': {}, 'gpl': ['GRAPH: begin()']}")); },
+                ThrowsMessage<PlotError>("the statements end inside the graph"));
 }
 
 }  // namespace
