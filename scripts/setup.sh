@@ -34,10 +34,15 @@ require_browser() {
     fi
 }
 
+# build PRESET [OPTION...]: configures and builds, with options as `cmake --build` takes them.
+build() {
+    cmake --preset "$1" >/dev/null
+    cmake --build --preset "$@"
+}
+
 # The library and the program, optimised.
 build_program() {
-    cmake --preset release >/dev/null
-    cmake --build --preset release --target bldatman bldatman-run
+    build release --target bldatman bldatman-run
 }
 
 build_packages=(g++ cmake ninja-build libboost-dev rapidjson-dev libcli11-dev libkainjow-mustache-dev libutfcpp-dev gnuplot-nox)
@@ -45,4 +50,6 @@ test_packages=(libgtest-dev libgmock-dev python3 binutils dpkg-dev file locales)
 windows_packages=(g++-mingw-w64-x86-64-posix googletest wine wine64)
 bench_packages=(libbenchmark-dev python3 time)
 fuzz_packages=(clang-14 libclang-rt-14-dev)
-check_packages=(clang-format clang-tidy cppcheck gcovr git)
+format_packages=(clang-format git)
+analysis_packages=(clang-tidy cppcheck)
+coverage_packages=(gcovr)
