@@ -136,7 +136,7 @@ std::vector<TextVariable> prepareTexts(standin::DataSet& dataSet)
     for (std::size_t i = 0; i < dataSet.variables.size(); ++i) {
         standin::Variable& variable = dataSet.variables[i];
         if (variable.firstText) {
-            variable.level = QUVO_Variable_Enumerations::LevelNominal;
+            variable.level = standin::levels::nominal;
             variable.values.clear();
             texts.push_back({i, {}});
         }

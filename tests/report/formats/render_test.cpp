@@ -51,7 +51,7 @@ Descendants* groupOf(Table& table, Cell* child)
 
 Cell* cellOf(Table& table, double number)
 {
-    auto* cell = new Cell(&table, CellTypeStandard);
+    auto* cell = new Cell(&table, CellType{1});
     cell->setValue(number);
     return cell;
 }
@@ -67,7 +67,7 @@ TEST(Document, HoldsWhatWasBuiltInTheOrderOfItsForm)
         table.hide_title(true);
         table.set_min_data_column_width(3);
         table.set_max_data_column_width(4);
-        table.set_default_cell_format(QUVO_Format::FormatFixed, 10, 2);
+        table.set_default_cell_format(QUVO_Format::FormatType{5}, 10, 2);
         table.addFootnoteRefs(0);
         table.add_footnote("note");
         Descendants* inner = groupOf(table, cellOf(table, 1));

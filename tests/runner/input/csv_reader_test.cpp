@@ -16,7 +16,7 @@ namespace runner {
 namespace {
 
 using namespace std::string_literals;
-using namespace QUVO_Variable_Enumerations;
+namespace levels = standin::levels;
 using Values = std::vector<double>;
 
 constexpr double missing = systemMissingValue;
@@ -86,14 +86,14 @@ TEST(CsvReader, KnowsEverySpellingOfAMissingCell)
     const standin::DataSet dataSet = readCsv("a,b\n,1\n.,1\nna,1\nNa,1\nNaN,1\n\"NAN\",1\n7,1\n", "d.csv");
     EXPECT_EQ(dataSet.variables[0].values, (Values{missing, missing, missing, missing, missing, missing, 7}));
     EXPECT_FALSE(dataSet.variables[0].firstText);
-    EXPECT_EQ(readCsv("a\nNA\n", "d.csv").variables[0].level, LevelScale);
+    EXPECT_EQ(readCsv("a\nNA\n", "d.csv").variables[0].level, levels::scale);
 }
 
 TEST(CsvReader, MakesAColumnWithOneTextAColumnOfTexts)
 {
     const standin::DataSet dataSet = readCsv("n,t\n1,2.0\n2,NA\n3,\"say \"\"hi\"\"\"\n4,2\n5,2.0\n6, NA\n", "d.csv");
     const standin::Variable& texts = dataSet.variables[1];
-    EXPECT_EQ(texts.level, LevelNominal);
+    EXPECT_EQ(texts.level, levels::nominal);
     EXPECT_EQ(texts.values, (Values{1, missing, 2, 3, 1, 4}));
     EXPECT_EQ(texts.valueLabels, (std::map<double, std::string>{{1, "2.0"}, {2, "say \"hi\""}, {3, "2"}, {4, " NA"}}));
     EXPECT_EQ(texts.firstText->line, 4U);

@@ -14,7 +14,7 @@
 namespace runner {
 namespace {
 
-using namespace QUVO_Variable_Enumerations;
+namespace levels = standin::levels;
 using Values = std::vector<double>;
 
 standin::DataSet sample()
@@ -33,7 +33,7 @@ TEST(DictionaryReader, AppliesEveryMember)
     const standin::Variable& a = dataSet.variables[0];
     EXPECT_EQ(a.label, "Gr\xC3\xB6\xC3\x9F"
                        "e");
-    EXPECT_EQ(a.level, LevelOrdinal);
+    EXPECT_EQ(a.level, levels::ordinal);
     EXPECT_EQ(a.values, (Values{1, systemMissingValue, systemMissingValue}));
     EXPECT_EQ(a.valueLabels, (std::map<double, std::string>{{1, "one"}, {2.5, ""}}));
 }
@@ -51,7 +51,7 @@ TEST(DictionaryReader, LeavesTextsTexts)
     applyDictionary(dataSet, R"({"variables": {"t": {"level": "scale", "missing": [1], "valueLabels": {"1": "no"}}}})",
                     "v.json");
     const standin::Variable& texts = dataSet.variables[1];
-    EXPECT_EQ(texts.level, LevelScale);
+    EXPECT_EQ(texts.level, levels::scale);
     EXPECT_TRUE(texts.firstText);
     EXPECT_EQ(texts.values, (Values{1, 2, 1}));
     EXPECT_EQ(texts.valueLabels.at(1), "x");
@@ -62,8 +62,8 @@ TEST(DictionaryReader, KeepsWhatIsNotMentioned)
     for (const char* const text : {"{}", R"({"variables": {}})", R"({"variables": {"a": {}, "t": {}}})"}) {
         standin::DataSet dataSet = sample();
         applyDictionary(dataSet, text, "v.json");
-        EXPECT_EQ(dataSet.variables[0].level, LevelScale);
-        EXPECT_EQ(dataSet.variables[1].level, LevelNominal);
+        EXPECT_EQ(dataSet.variables[0].level, levels::scale);
+        EXPECT_EQ(dataSet.variables[1].level, levels::nominal);
         EXPECT_EQ(dataSet.variables[1].valueLabels.size(), 2U);
     }
 }
