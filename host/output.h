@@ -191,7 +191,7 @@ public:
     virtual ~StatGPLGraph();
 
     /// The host asks for the chart's statements here, once, while the graph is added to the document: the chart adds
-    /// the member "gpl", an array of texts, to `graph`.
+    /// the member "gpl", an array of texts, to `graph`. The operation's name is the host's: another's may differ.
     virtual void writeGPL(rapidjson::Value& graph,
                           rapidjson::MemoryPoolAllocator<rapidjson::CrtAllocator>& allocator) = 0;
 
