@@ -20,16 +20,18 @@ else()
 endif()
 set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/archive)
 
-add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor -Wold-style-cast
-                    -Woverloaded-virtual -Wcast-qual -Wcast-align -Wformat=2 -Wundef -Wextra-semi -Wredundant-decls
-                    -Wmissing-declarations
-                    "$<$<CXX_COMPILER_ID:GNU>:-Wuseless-cast;-Wduplicated-cond;-Wduplicated-branches;-Wlogical-op>")
-
-# GCC 12 sees overlaps in the standard library's own string concatenation.
-add_compile_options($<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
-
-# Arithmetic is the same to the bit on every build: no fused multiply-add.
-add_compile_options(-ffp-contract=off)
+# By the kind of compiler: those in the manner of Microsoft's, and those in the manner of GCC. Floating-point arithmetic is
+# the same to the bit on every build: no fused multiply-add, nothing rearranged.
+if(MSVC)
+    add_compile_options(/W4 /EHsc /permissive- /utf-8 /fp:precise)
+else()
+    add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor
+                        -Wold-style-cast -Woverloaded-virtual -Wcast-qual -Wcast-align -Wformat=2 -Wundef -Wextra-semi
+                        -Wredundant-decls -Wmissing-declarations -ffp-contract=off)
+    # GCC 12 sees overlaps in the standard library's own string concatenation.
+    add_compile_options(
+        "$<$<CXX_COMPILER_ID:GNU>:-Wuseless-cast;-Wduplicated-cond;-Wduplicated-branches;-Wlogical-op;-Wno-restrict>")
+endif()
 
 # Files for one platform alone end in its name: takes those for another out of a list of sources.
 function(keep_own_platform list)

@@ -16,12 +16,18 @@ endfunction()
 
 bldatman_header_library(boost_headers boost math/distributions/students_t.hpp)
 bldatman_header_library(rapidjson rapidjson document.h)
-bldatman_header_library(cli11 CLI CLI.hpp)
-bldatman_header_library(mustache kainjow mustache.hpp)
-bldatman_header_library(utf8cpp utf8cpp utf8.h)
 
 # One definition of RapidJSON's types in the module and in the host.
 target_compile_definitions(rapidjson INTERFACE RAPIDJSON_HAS_STDSTRING=1)
+
+# The module needs no more.
+if(BLDATMAN_MODULE_ONLY)
+    return()
+endif()
+
+bldatman_header_library(cli11 CLI CLI.hpp)
+bldatman_header_library(mustache kainjow mustache.hpp)
+bldatman_header_library(utf8cpp utf8cpp utf8.h)
 
 # The test framework comes built for this system, and for another one as sources.
 if(NOT CMAKE_CROSSCOMPILING)

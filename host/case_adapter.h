@@ -47,7 +47,7 @@ private:
     virtual const Record* next() = 0;
 };
 
-/// An iterator that could start over; the module reads one pass and never asks for another.
+/// The base of the iterators over cases; the module reads one pass and never asks for another.
 class MultiPassRecordIter : public RecordIterator {};
 
 }  // namespace RecKit

@@ -11,44 +11,20 @@
 #include <string>
 #include <vector>
 
-/// The parser's enumerations. They cross as integers; where the host keeps a meaning to itself, the name says only
-/// the number.
+/// The parser's enumerations. They cross as integers, whose meaning is the host's; docs/another-host.md lists which.
 namespace UPSpecTypes {
 
-/// The kind of a parameter's value, and with which operation of `ParamObj` it is read back.
-enum ParamSpec : int {
-    BareKeyword = 0,       ///< no value; presence alone counts
-    KeywordValue = 3,      ///< one of the allowed values: `getUpStringGeneric`
-    KeywordOrLiteral = 4,  ///< one of the allowed values, as keyword or literal: `getStringOrLiteral`
-    Number = 7,            ///< `getNumberValue`
-    Integer = 9,           ///< `getIntegerValue`
-    VariableList = 16,     ///< `getStringList`, `getVarList`
-    QualifierList = 28,    ///< `getStringQualList`
-};
-
-enum SubComSpec : int {
-    SubComSpec1 = 1,
-    SubComSpec2 = 2,
-};
-
-enum BracketOptions : int {
-    NoBracket = 0,
-    VariableListBracket = 3,  ///< the value may stand in parentheses
-};
-
-enum QualifOptions : int {
-    QualifOption0 = 0,
-    QualifOption1 = 1,
-};
-
-enum LowerBdryOptions : int { LowerBdryInclusive = 1 };
-enum UpperBdryOptions : int { UpperBdryInclusive = 1 };
-
-enum RepeatVarOptions : int { RepeatVarAllowed = 0 };
+enum ParamSpec : int {};  ///< the kind of a parameter's value
+enum SubComSpec : int {};
+enum BracketOptions : int {};
+enum QualifOptions : int {};
+enum LowerBdryOptions : int {};
+enum UpperBdryOptions : int {};
+enum RepeatVarOptions : int {};
 
 }  // namespace UPSpecTypes
 
-/// Where the host's parser and validator leave their complaints to the user.
+/// Takes complaints to the user.
 class ParserMessage {
 public:
     ParserMessage();
@@ -56,13 +32,12 @@ public:
     ParserMessage(const ParserMessage&) = delete;
     ParserMessage& operator=(const ParserMessage&) = delete;
 
-    /// The command that complaints are about; a message object works without it.
+    /// The command and the procedure's title; complaints are made to an object without either, too.
     void SetCommandName(const std::string& name);
-
-    /// The procedure's title for people; a message object works without it.
     void SetProcedureTitle(const std::string& title);
 
-    /// Tells the user that `variable`, named in the list `parameter`, must be continuous. `extra` may be null.
+    /// Tells the user that `variable`, named in the list `parameter`, must be continuous. This procedure passes null
+    /// for `extra`.
     void NeedDepVarCont(QuvoVarName variable, const char* parameter, const char* extra);
 
     struct Data;  ///< the host's own
@@ -72,29 +47,27 @@ public:
 /// The description of one parameter or of one qualifier.
 class ParamDescriptor {
 public:
-    /// @param name      upper case
-    /// @param required  the command is refused without this parameter
-    /// @param second    a flag whose meaning is the host's
-    ParamDescriptor(const std::string& name, UPSpecTypes::ParamSpec kind, bool required, bool second,
+    /// @param name  upper case
+    ///
+    /// The meaning of the two flags and of the brackets is the host's.
+    ParamDescriptor(const std::string& name, UPSpecTypes::ParamSpec kind, bool first, bool second,
                     UPSpecTypes::BracketOptions brackets);
     ParamDescriptor(const ParamDescriptor& other);
     ParamDescriptor& operator=(const ParamDescriptor&) = delete;
     ~ParamDescriptor();
 
-    /// Marks the parameter as required or not, beside the constructor's flag.
+    /// Whether the parameter, and its value, are required; a parameter without the call has the host's default.
     void setParamRequired(bool required);
-
-    /// False lets the parameter stand without a value.
     void setValueRequired(bool required);
 
     /// The meaning of the option is the host's; a parameter without the call has the host's default.
     void setQualifOption(UPSpecTypes::QualifOptions option);
 
-    /// The smallest and the largest number allowed; without the calls there is no bound.
+    /// The bounds of a number; without the calls there is none. The meaning of the options is the host's.
     void setLowerBoundary(double bound, UPSpecTypes::LowerBdryOptions option);
     void setUpperBoundary(double bound, UPSpecTypes::UpperBdryOptions option);
 
-    /// Adds one allowed value; where there is none, any value of the kind is allowed.
+    /// Adds one allowed value.
     void addStringValue(const std::string& value);
 
     /// Adds a qualifier, of which a copy is kept.
@@ -104,7 +77,7 @@ public:
     std::unique_ptr<Data> data;
 };
 
-/// The description of one subcommand; the empty name is the leading part of the command, which has no parentheses.
+/// The description of one subcommand; the empty name is the leading part of the command.
 class SubComDescriptor {
 public:
     /// The meaning of the two flags is the host's; this procedure passes false twice.
@@ -148,7 +121,7 @@ public:
     virtual ~QUVO_TokenSequenceBase() = default;
 };
 
-/// The tokens of the command that the user has given.
+/// The tokens of the command.
 class QUVO_TokenSequence : public QUVO_TokenSequenceBase {
 public:
     /// The flag's meaning is the host's; this procedure passes true.
@@ -161,29 +134,26 @@ public:
     std::unique_ptr<Data> data;
 };
 
-/// One parameter, or one qualifier, as the user gave it. Each getter returns true and fills its reference when a value
-/// of its kind was given; on false the reference's content means nothing.
+/// One parameter, or one qualifier, as the user gave it. Each getter returns true when it has filled its reference with
+/// a value; on false the reference's content means nothing.
 class ParamObj {
 public:
     /// The value in upper case.
     bool getUpStringGeneric(std::string& value) const;
 
-    /// The value as it stands; `isLiteral` tells whether it was written as a literal.
+    /// The value, not converted to upper case. This procedure does not look at `isLiteral`.
     bool getStringOrLiteral(std::string& value, bool& isLiteral) const;
 
-    /// An integer, as the parser checked it against the description.
     bool getIntegerValue(int& value) const;
-
-    /// A number within the bounds of the description.
     bool getNumberValue(double& value) const;
 
-    /// The names of a variable list, ranges expanded, in command order.
+    /// The names of a variable list: one for each position of `VarSpecObj::GetValidVarList`, in the same order.
     bool getStringList(std::vector<std::string>& names) const;
 
-    /// The same list as variable names, one for one.
+    /// The variables of a variable list, as the validator takes them.
     bool getVarList(std::vector<QuvoVarName>& variables) const;
 
-    /// The qualifiers of this parameter. `messages` may be null.
+    /// The qualifiers of this parameter. This procedure passes null for `messages`.
     bool getStringQualList(std::vector<ParamObj>& qualifiers, const ParamDescriptor& description,
                            ParserMessage* messages) const;
 
@@ -205,7 +175,7 @@ public:
     /// The parameter of that name, or null when it was not given.
     const ParamObj* getParamObj(const std::string& name) const;
 
-    /// The name under which users know the subcommand.
+    /// The subcommand's external name, as the validator takes it.
     std::string getSubComExtName() const;
 
     struct Data;                                     ///< the host's own
@@ -240,7 +210,7 @@ public:
     UniversalParser(const UniversalParser&) = delete;
     UniversalParser& operator=(const UniversalParser&) = delete;
 
-    /// Parses. 0: `command` is filled. Anything else: refused, and the user has been told why.
+    /// Parses. 0: `command` is filled. Anything else: failed, and the command ends.
     int getCommandSpecifications();
 
     struct Data;  ///< the host's own
@@ -250,14 +220,16 @@ public:
 /// Checks the variables that a parameter names against a data source.
 class VarSpecObj {
 public:
-    /// Keeps the references and the pointer. The flag's meaning is the host's; this procedure passes true.
+    /// Keeps the references, those to the texts too, and the pointer. The flag's meaning is the host's; this procedure
+    /// passes true.
     VarSpecObj(const std::string& parameter, const std::string& subcommand, const CommandDescriptor& description,
                QUVO_DataSource* source, bool flag);
     ~VarSpecObj();
     VarSpecObj(const VarSpecObj&) = delete;
     VarSpecObj& operator=(const VarSpecObj&) = delete;
 
-    /// True when every variable exists; otherwise the user has been told which does not.
+    /// True when every variable exists; otherwise telling the user is up to this object. The option's meaning is the
+    /// host's.
     bool ValidateVariables(const std::vector<QuvoVarName>& variables, UPSpecTypes::RepeatVarOptions repeats);
 
     /// The positions of the variables in the data source, in list order, after a successful validation.

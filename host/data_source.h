@@ -4,14 +4,9 @@
 #include <memory>
 #include <string>
 
-/// The host's numbering of measurement levels.
 namespace QUVO_Variable_Enumerations {
-enum MeasurementLevel : int {
-    LevelUnknown = 0,
-    LevelNominal = 1,
-    LevelOrdinal = 2,
-    LevelScale = 3,
-};
+/// 1 is nominal, 2 ordinal, 3 scale; the meaning of any other value is the host's.
+enum MeasurementLevel : int {};
 }  // namespace QUVO_Variable_Enumerations
 
 /// A handle on the value labels of one variable; owned by the variable and valid as long as it.
@@ -44,7 +39,6 @@ public:
     QUVO_Variable& operator=(const QUVO_Variable&) = delete;
     ~QUVO_Variable();
 
-    /// The level: 1 and 2 are the categorical ones, 3 is scale.
     QUVO_Variable_Enumerations::MeasurementLevel GetMeasurementLevel() const;
 
     /// The name, zero-terminated, in the host's encoding; never null, owned by this object.

@@ -41,7 +41,7 @@ public:
     PathFinder(const PathFinder&) = delete;
     PathFinder& operator=(const PathFinder&) = delete;
 
-    /// The folder; owned by this object.
+    /// The folder; owned by this object. The operation's name is the host's: another's may differ.
     virtual const ExtNameStr* getPath() = 0;
 };
 

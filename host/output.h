@@ -18,12 +18,12 @@ class Descendants;
 class Table;
 
 namespace QUVO_Format {
-/// The host's display formats; 5 shows a number with a fixed count of decimals.
-enum FormatType : int { FormatFixed = 5 };
+/// The host's display formats, whose meaning is its own; this procedure passes 5.
+enum FormatType : int {};
 }  // namespace QUVO_Format
 
 /// Every cell of this procedure, header cells included, has type 1.
-enum CellType : int { CellTypeStandard = 1 };
+enum CellType : int {};
 
 /// The output document of one run.
 class StatJSONGenerator {
@@ -49,17 +49,19 @@ public:
     StatJSONConverter(const StatJSONConverter&) = delete;
     StatJSONConverter& operator=(const StatJSONConverter&) = delete;
 
-    /// Delivers a document, once per run; the host takes a copy. True when it could be delivered.
+    /// Delivers a document, once per run. It may be gone as soon as this returns, so what the host needs of it later it
+    /// copies. The result is the host's; this procedure does not look at it.
     bool generateOutput(rapidjson::Document& document);
 
     struct Data;  ///< the host's own
     std::unique_ptr<Data> data;
 };
 
-/// What every procedure's output has in common; does its work by existing. Keeps what it is given.
+/// What every procedure's output has in common; what it does is the host's. Keeps what it is given, and lives while
+/// tables and charts are made and delivered.
 class OPSCommonOutput {
 public:
-    /// `adapter` may be null.
+    /// This procedure passes null for `adapter`.
     OPSCommonOutput(ACAVarValidSpecs* validSpecs, ProcedureDataSource& source, BpProcedure* procedure,
                     const ACAInputAdapter* adapter);
     ~OPSCommonOutput();
@@ -76,7 +78,7 @@ public:
     Cell(Table* table, CellType type);
     virtual ~Cell();
 
-    /// The cell's value as it stands in the document, made with the document's allocator.
+    /// The host's form of the cell; the module does not ask for it.
     virtual rapidjson::Value getJson();
     Cell(const Cell&) = delete;
     Cell& operator=(const Cell&) = delete;
@@ -84,7 +86,6 @@ public:
     /// A number, shown in the table's default cell format.
     void setValue(double number);
 
-    /// A text, shown as it is.
     void setValue(std::string text);
 
     struct Data;  ///< the host's own, of a group too
@@ -94,19 +95,18 @@ protected:
     Cell();  ///< for `Descendants` alone
 };
 
-/// A group of header cells, itself a cell, so that groups nest. Its label is shown unless set otherwise.
+/// A group of header cells, itself a cell, so that groups nest.
 class Descendants : public Cell {
 public:
     explicit Descendants(Table* table);
     ~Descendants() override;
 
-    /// The group with its label and children.
     rapidjson::Value getJson() override;
 
     /// The group's label; a group without the call has none.
     void set_label(std::string label);
 
-    /// Whether the label is shown.
+    /// Whether the label is shown; a group without the call has the host's default.
     void setShowLabel(bool show);
 
     /// Appends a child and takes it over.
@@ -160,13 +160,13 @@ public:
     void set_min_data_column_width(int width);
     void set_max_data_column_width(int width);
 
-    /// How numeric cells are shown.
+    /// How numeric cells are shown; this procedure passes 5, 10 and 3.
     void set_default_cell_format(const QUVO_Format::FormatType& type, short width, short decimals);
 
     /// Refers the table to the footnote that is about to be added; footnotes count from 0.
     void addFootnoteRefs(int index);
 
-    /// Adds the footnote that was last referred to.
+    /// Appends a footnote.
     void add_footnote(const std::string& text);
 
     /// The table keeps both pointers until it has been added; it does not own them.
@@ -183,7 +183,7 @@ public:
 /// Base of a procedure's charts. Columns handed over are copied.
 class StatGPLGraph {
 public:
-    /// @param name  the chart's name, by which its data source is known
+    /// @param name  the chart's name
     StatGPLGraph(StatJSONGenerator* generator, const std::string& name);
     StatGPLGraph(const StatGPLGraph&) = delete;
     StatGPLGraph& operator=(const StatGPLGraph&) = delete;
@@ -191,7 +191,7 @@ public:
     virtual ~StatGPLGraph();
 
     /// The host asks for the chart's statements here, once, while the graph is added to the document: the chart adds
-    /// the member "gpl", an array of texts, to `graph`.
+    /// the member "gpl", an array of texts, to `graph`. The operation's name is the host's: another's may differ.
     virtual void writeGPL(rapidjson::Value& graph,
                           rapidjson::MemoryPoolAllocator<rapidjson::CrtAllocator>& allocator) = 0;
 

@@ -8,14 +8,15 @@ namespace bldatman {
 namespace {
 
 /// std::round is a call for each value, and in one C library takes the last double below a half for a half. Adding 2^52
-/// leaves a double no room for a fraction, so that the addition itself rounds to an integer, halves to the even one;
-/// those that went down are sent up again. From 2^52 on every double is an integer. The sign of zero is kept.
+/// leaves a double no room for a fraction, so that the addition itself rounds to an integer, whichever of the two the
+/// processor is set to; the halves beside it are exact and tell whether it was the right one. From 2^52 on every double
+/// is an integer. The sign of zero is kept.
 double roundedHalfAwayFromZero(double value)
 {
     constexpr double noFractions = 0x1p52;
     const double size = std::abs(value);
-    const double even = (size + noFractions) - noFractions;
-    const double away = even + (size - even == 0.5 ? 1.0 : 0.0);
+    const double whole = (size + noFractions) - noFractions;
+    const double away = whole + (size >= whole + 0.5 ? 1.0 : 0.0) - (size < whole - 0.5 ? 1.0 : 0.0);
     return std::copysign(size < noFractions ? away : size, value);
 }
 
@@ -38,9 +39,16 @@ void fillDifferences(std::span<const double> a, std::span<const double> b, std::
 void fillRatios(std::span<const double> differences, std::span<const double> means, double scale,
                 std::span<double> ratios)
 {
+    // In loops of their own: of one, a compiler may make a division by every mean, which a host that has unmasked the
+    // processor's exceptions would not survive.
     for (std::size_t i = 0; i < ratios.size(); ++i) {
-        const double ratio = differences[i] / means[i] * scale;
-        ratios[i] = means[i] == 0.0 ? 0.0 : ratio;
+        ratios[i] = means[i] == 0.0 ? 1.0 : means[i];
+    }
+    for (std::size_t i = 0; i < ratios.size(); ++i) {
+        ratios[i] = differences[i] / ratios[i] * scale;
+    }
+    for (std::size_t i = 0; i < ratios.size(); ++i) {
+        ratios[i] = means[i] == 0.0 ? 0.0 : ratios[i];
     }
 }
 

@@ -6,7 +6,7 @@ namespace bldatman {
 
 namespace {
 
-using Allocator = rapidjson::MemoryPoolAllocator<rapidjson::CrtAllocator>;
+using Allocator = BldatmanOutputChart::Allocator;
 
 /// The statements of one chart, in order.
 class StatementList {
@@ -122,7 +122,7 @@ void BldatmanOutputChart::setAxisLabel(bool isX, const std::string& label)
     (isX ? xAxisLabel_ : yAxisLabel_) = label;
 }
 
-void BldatmanOutputChart::writeGPL(rapidjson::Value& graph, Allocator& allocator)
+void BldatmanOutputChart::addStatements(rapidjson::Value& graph, Allocator& allocator)
 {
     StatementList statements(allocator);
     addSource(statements, getName());

@@ -20,12 +20,17 @@ public:
     /// Points that overlap are drawn side by side, unless this is set to false.
     void setDodge(bool dodge) { dodge_ = dodge; }
 
+    using Allocator = rapidjson::MemoryPoolAllocator<rapidjson::CrtAllocator>;
+
+    // The name of this operation is the host's, and stands here alone.
+    void writeGPL(rapidjson::Value& graph, Allocator& allocator) override { addStatements(graph, allocator); }
+
+private:
     /// Adds the chart's statements, in order, as the array "gpl": data source, columns, axes, title, points, the lines
     /// that the PLOT flags ask for, footnote. The mean difference is always drawn. Texts are inserted as they are;
     /// nothing is escaped.
-    void writeGPL(rapidjson::Value& graph, rapidjson::MemoryPoolAllocator<rapidjson::CrtAllocator>& allocator) override;
+    void addStatements(rapidjson::Value& graph, Allocator& allocator);
 
-private:
     std::string footnote() const;
 
     std::string xAxisLabel_;

@@ -84,37 +84,29 @@ std::array<double, 9> ratioLevels(const BldatmanPairResult& record, bool percent
     };
 }
 
-void addLevels(BldatmanOutputChart& chart, const std::array<double, 9>& levels)
-{
-    for (std::size_t i = 0; i < levels.size(); ++i) {
-        std::vector<double> values = level(levels[i]);
-        chart.addToDataVector(values, "y" + std::to_string(i + 1));
-    }
-}
-
-void addLegends(BldatmanOutputChart& chart, PlotFrame& frame, const PlotContent& content)
-{
-    std::vector<std::string> mean = legend(content.meanLegend);
-    std::vector<std::string> meanInterval = legend(content.meanIntervalLegend);
-    chart.addToDataVector(frame.cref, "cref");
-    chart.addToDataVector(frame.calimits, "calimits");
-    chart.addToDataVector(mean, "cmean");
-    chart.addToDataVector(meanInterval, "cMeanDiffCI");
-    chart.addToDataVector(frame.crefALimitsCI, "crefALimitsCI");
-}
-
-/// Makes one plot; the host takes copies of all columns.
+/// Makes one plot. Every column stays as it is until the plot has been added: whether the host copies it when it is
+/// handed over, or reads it only then, is its affair.
 void addPlot(BldatmanOutputChart& chart, PlotFrame& frame, const PlotContent& content)
 {
     chart.setAxisLabel(true, frame.xAxisLabel);
     chart.setAxisLabel(false, content.yAxisLabel);
     chart.setDodge(content.x.size() <= maxDodgedPoints);
+    std::array<std::vector<double>, 9> levels;
+    std::ranges::transform(content.levels, levels.begin(), level);
+    std::vector<std::string> mean = legend(content.meanLegend);
+    std::vector<std::string> meanInterval = legend(content.meanIntervalLegend);
     chart.setDataVector(content.x, true);
     chart.setDataVector(content.y, false);
     chart.addToDataVector(frame.xMinMax, "xMinMax");
     chart.addToDataVector(frame.y0, "y0");
-    addLevels(chart, content.levels);
-    addLegends(chart, frame, content);
+    for (std::size_t i = 0; i < levels.size(); ++i) {
+        chart.addToDataVector(levels[i], "y" + std::to_string(i + 1));
+    }
+    chart.addToDataVector(frame.cref, "cref");
+    chart.addToDataVector(frame.calimits, "calimits");
+    chart.addToDataVector(mean, "cmean");
+    chart.addToDataVector(meanInterval, "cMeanDiffCI");
+    chart.addToDataVector(frame.crefALimitsCI, "crefALimitsCI");
     chart.addGPLGraphToProcedureJSON();
 }
 

@@ -52,11 +52,12 @@ int AlgorithmVarList::findVariable(const std::string& name) const
 
 int AlgorithmVarList::setFrequencyWeight(const std::string& name, const std::string& label)
 {
+    AlgorithmVarEntry weight = {name, label, kindContinuous, 0};  // before an entry moves that the texts may be part of
     if (frequencyWeightIndex_ == -1) {
         entries_.emplace_back();
         frequencyWeightIndex_ = static_cast<int>(entries_.size()) - 1;
     }
-    entries_[static_cast<std::size_t>(frequencyWeightIndex_)] = {name, label, kindContinuous, 0};
+    entries_[static_cast<std::size_t>(frequencyWeightIndex_)] = std::move(weight);
     return frequencyWeightIndex_;
 }
 

@@ -7,7 +7,9 @@ namespace bldatman {
 
 namespace {
 
-void appendRecord(const RecKit::Record& record, std::vector<Column>& columns)
+/// `Record` is the host's, constant or not.
+template <class Record>
+void appendRecord(Record& record, std::vector<Column>& columns)
 {
     const auto size = static_cast<unsigned>(record.Size());
     const double* values = record.GetAll();
@@ -30,7 +32,7 @@ void readCaseColumns(const std::vector<int>& indices, ProcedureDataSource& sourc
         AlgoDataAccessFactory factory;
         RecKit::RecordIterator& cases = factory.createDataAccess(indices, source, {true, true, true}).getIterator();
         while (cases.HasMore()) {
-            if (const RecKit::Record* record = cases.Next()) {
+            if (auto* record = cases.Next()) {
                 appendRecord(*record, columns);
             }
         }

@@ -6,6 +6,15 @@
 
 namespace bldatman {
 
+namespace {
+
+using QUVO_Variable_Enumerations::MeasurementLevel;
+
+const auto levelNominal = static_cast<MeasurementLevel>(1);
+const auto levelOrdinal = static_cast<MeasurementLevel>(2);
+
+}  // namespace
+
 AlgoDataAccess::AlgoDataAccess(RecKit::RecordIterator& iterator, const AlgorithmVarList& varList)
     : iterator_(&iterator)
     , varList_(&varList)
@@ -42,7 +51,7 @@ void AlgoDataAccessFactory::declareVariables(const std::vector<int>& indices, Pr
     varList_ = std::make_unique<AlgorithmVarList>();
     for (const int index : indices) {
         if (static_cast<unsigned>(index) < columnCount) {
-            const QUVO_Variable variable = source.GetVariable(index);
+            QUVO_Variable variable = source.GetVariable(index);
             describe(variable);
             validSpecs_->AddVariable(index, false, flags.first, flags.second, flags.third);
         }
@@ -51,14 +60,14 @@ void AlgoDataAccessFactory::declareVariables(const std::vector<int>& indices, Pr
 
 /// Adds a variable to the description. A duplicate or an empty name leaves it one entry short, which nobody minds:
 /// the host still delivers the variable.
-void AlgoDataAccessFactory::describe(const QUVO_Variable& variable)
+void AlgoDataAccessFactory::describe(QUVO_Variable& variable)
 {
     const auto level = variable.GetMeasurementLevel();
     const std::string name = variable.GetName();
     const char* ownLabel = variable.GetLabel();
     const std::string label = ownLabel != nullptr ? ownLabel : name;
-    const bool nominal = level == QUVO_Variable_Enumerations::LevelNominal;
-    if (nominal || level == QUVO_Variable_Enumerations::LevelOrdinal) {
+    const bool nominal = level == levelNominal;
+    if (nominal || level == levelOrdinal) {
         const unsigned categoryCount = QUVO_ValueLabelMap(variable.GetValueLabels()).Size();
         varList_->addCategorical(name, label, categoryCount, nominal);
     } else {

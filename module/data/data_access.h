@@ -49,7 +49,7 @@ public:
 
 private:
     void declareVariables(const std::vector<int>& indices, ProcedureDataSource& source, AddVariableFlags flags);
-    void describe(const QUVO_Variable& variable);
+    void describe(QUVO_Variable& variable);
 
     std::unique_ptr<ACAVarValidSpecs> validSpecs_;
     std::unique_ptr<ACAInputAdapter> adapter_;

@@ -6,8 +6,12 @@
 extern "C" void BLDATMAN()
 {
     try {
-        bldatman::bldatman_entry();
+        try {
+            bldatman::bldatman_entry();
+        } catch (...) {
+            bldatman::reportCurrentException("BLDATMAN: ");
+        }
     } catch (...) {
-        bldatman::reportCurrentException("BLDATMAN: ");
+        // A host can have set its standard error stream to throw: then nobody is left to tell, and nothing leaves here.
     }
 }

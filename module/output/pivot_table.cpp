@@ -6,6 +6,9 @@ namespace bldatman {
 
 namespace {
 
+const auto cellType1 = static_cast<CellType>(1);
+const auto formatType5 = static_cast<QUVO_Format::FormatType>(5);
+
 constexpr int minColumnWidth = 100;
 constexpr int maxColumnWidth = 300;
 constexpr short cellWidth = 10;
@@ -22,7 +25,8 @@ void handOver(Descendants& group, std::unique_ptr<Child> child)
 }  // namespace
 
 PivotTable::PivotTable(StatJSONGenerator& generator, std::string internalName, const std::string& title)
-    : table_(std::make_unique<Table>(&generator, internalName))
+    : internalName_(std::move(internalName))
+    , table_(std::make_unique<Table>(&generator, internalName_))
 {
     table_->set_table_title(title);
     table_->hide_title(false);
@@ -30,9 +34,14 @@ PivotTable::PivotTable(StatJSONGenerator& generator, std::string internalName, c
     table_->set_max_data_column_width(maxColumnWidth);
 }
 
+PivotTable::~PivotTable()
+{
+    release();
+}
+
 void PivotTable::setDefaultFormat()
 {
-    table_->set_default_cell_format(QUVO_Format::FormatFixed, cellWidth, cellDecimals);
+    table_->set_default_cell_format(formatType5, cellWidth, cellDecimals);
 }
 
 void PivotTable::addFootnote(const std::string& text)
@@ -101,14 +110,21 @@ void PivotTable::emit()
     table_->set_dimensions(dimension_.get());
     table_->set_cells(cells_.get());
     table_->addTableToProcedureJSON();
+    release();
+}
+
+void PivotTable::release()
+{
     table_.reset();
     dimension_.reset();
+    rows_.reset();
+    columns_.reset();
     cells_.reset();
 }
 
 std::unique_ptr<Cell> PivotTable::makeCell(const CellValue& value)
 {
-    auto cell = std::make_unique<Cell>(table_.get(), CellTypeStandard);
+    auto cell = std::make_unique<Cell>(table_.get(), cellType1);
     std::visit([&cell](const auto& content) { cell->setValue(content); }, value);
     return cell;
 }

@@ -23,6 +23,9 @@ public:
     /// A table with its title and column widths set.
     /// @param internalName  the same in every language
     PivotTable(StatJSONGenerator& generator, std::string internalName, const std::string& title);
+    ~PivotTable();
+    PivotTable(const PivotTable&) = delete;
+    PivotTable& operator=(const PivotTable&) = delete;
 
     /// Numbers are shown in format type 5, 10 wide, with 3 decimals.
     void setDefaultFormat();
@@ -52,6 +55,11 @@ public:
 private:
     std::unique_ptr<Cell> makeCell(const CellValue& value);
 
+    /// After an error as in the good case: the table, then the dimension or what would have become its own, then the
+    /// body.
+    void release();
+
+    std::string internalName_;  ///< the host may refer to it for as long as the table lives
     std::unique_ptr<Table> table_;
     std::unique_ptr<Descendants> columns_;
     std::unique_ptr<Cells> cells_;

@@ -11,7 +11,6 @@ class CommandDescriptor;
 class CommandSpec;
 class ParserMessage;
 class ProcedureDataSource;
-class SubComObj;
 
 namespace bldatman {
 
@@ -39,8 +38,10 @@ public:
 private:
     // The readers of the four subcommands; defined in settings_reader.cpp.
     bool get_Subcommand_Global();
-    bool getVariables(const SubComObj& global);
-    bool getWith(const SubComObj& global);
+    template <class SubCom>
+    bool getVariables(SubCom& global);
+    template <class SubCom>
+    bool getWith(SubCom& global);
     void readColumns(const std::vector<int>& indices, std::vector<Column>& columns);
     void getCriteria();
     void getPlot();

@@ -1,8 +1,8 @@
 // Reads one keyword of a parsed subcommand. `parameter` is null when the keyword was not given; then, and where its
-// getter fails, the result is the default.
+// getter fails, the result is the default, whatever the getter has left behind.
+//
+// The host's getters may be constant or not: `Param` is whichever it hands out.
 #pragma once
-
-#include "host/command_parser.h"
 
 #include <string>
 
@@ -14,13 +14,38 @@ enum class LetterCase {
     AsWritten,  ///< `getStringOrLiteral`
 };
 
-std::string readKeyword(const ParamObj* parameter, const char* defaultText, LetterCase letterCase);
+template <class Param>
+std::string readKeyword(Param* parameter, const char* defaultText, LetterCase letterCase)
+{
+    if (parameter == nullptr) {
+        return defaultText;
+    }
+    std::string text = defaultText;
+    bool isLiteral = false;
+    const bool delivered = letterCase == LetterCase::Upper ? parameter->getUpStringGeneric(text)
+                                                           : parameter->getStringOrLiteral(text, isLiteral);
+    return delivered ? text : defaultText;
+}
 
-double readNumber(const ParamObj* parameter, double defaultNumber);
+template <class Param>
+double readNumber(Param* parameter, double defaultNumber)
+{
+    double number = defaultNumber;
+    return parameter != nullptr && parameter->getNumberValue(number) ? number : defaultNumber;
+}
 
-int readInteger(const ParamObj* parameter, int defaultNumber);
+template <class Param>
+int readInteger(Param* parameter, int defaultNumber)
+{
+    int number = defaultNumber;
+    return parameter != nullptr && parameter->getIntegerValue(number) ? number : defaultNumber;
+}
 
 /// "TRUE" when the keyword was given, else "FALSE".
-const char* presence(const ParamObj* parameter);
+template <class Param>
+const char* presence(Param* parameter)
+{
+    return parameter != nullptr ? "TRUE" : "FALSE";
+}
 
 }  // namespace bldatman

@@ -1,5 +1,7 @@
 // The four subcommand readers of the settings. The order of the host calls is part of what is promised here: a host
 // that traces them sees each subcommand's keywords asked for in this order.
+//
+// What the host hands out may be constant or not, and its getters to match: nothing here asks for either.
 #include "host/command_parser.h"
 #include "host/procedure.h"
 #include "module/data/case_reader.h"
@@ -16,7 +18,11 @@ namespace bldatman {
 
 namespace {
 
-std::vector<std::string> readNames(const ParamObj* list)
+const auto repeatVarOption0 = static_cast<UPSpecTypes::RepeatVarOptions>(0);
+const auto levelScale = static_cast<QUVO_Variable_Enumerations::MeasurementLevel>(3);
+
+template <class Param>
+std::vector<std::string> readNames(Param* list)
 {
     std::vector<std::string> names;
     if (list != nullptr) {
@@ -26,13 +32,15 @@ std::vector<std::string> readNames(const ParamObj* list)
 }
 
 /// The positions of the listed variables in the data source; nothing, and a line, when the host does not know one.
-std::optional<std::vector<int>> validatedPositions(const char* parameter, const ParamObj& list, const SubComObj& global,
-                                                   const CommandDescriptor& descriptor, ProcedureDataSource& source)
+template <class Param, class SubCom>
+std::optional<std::vector<int>> validatedPositions(const std::string& parameter, Param& list, SubCom& global,
+                                                   CommandDescriptor& descriptor, ProcedureDataSource& source)
 {
     std::vector<QuvoVarName> variables;
     list.getVarList(variables);
-    VarSpecObj validator(parameter, global.getSubComExtName(), descriptor, &source, true);
-    if (!validator.ValidateVariables(variables, UPSpecTypes::RepeatVarAllowed)) {
+    const std::string subcommand = global.getSubComExtName();  // both texts outlive the validator
+    VarSpecObj validator(parameter, subcommand, descriptor, &source, true);
+    if (!validator.ValidateVariables(variables, repeatVarOption0)) {
         reportLine("get_Subcommand_Global: Error during ValidateVariables.");
         return std::nullopt;
     }
@@ -40,32 +48,30 @@ std::optional<std::vector<int>> validatedPositions(const char* parameter, const 
 }
 
 /// The level of the first variable that is not scale, of which the host is told; nothing when all are.
-std::optional<QUVO_Variable_Enumerations::MeasurementLevel> firstLevelNotScale(const char* parameter,
-                                                                               const std::vector<int>& positions,
-                                                                               ProcedureDataSource& source,
-                                                                               ParserMessage& message)
+std::optional<int> firstLevelNotScale(const char* parameter, const std::vector<int>& positions,
+                                      ProcedureDataSource& source, ParserMessage& message)
 {
     for (const int position : positions) {
-        const QUVO_Variable& variable = source.GetVariable(position);
+        QUVO_Variable& variable = source.GetVariable(position);
         const auto level = variable.GetMeasurementLevel();
-        if (level != QUVO_Variable_Enumerations::LevelScale) {
+        if (level != levelScale) {
             message.NeedDepVarCont(QuvoVarName(variable.GetName()), parameter, nullptr);
-            return level;
+            return static_cast<int>(level);
         }
     }
     return std::nullopt;
 }
 
 /// SORT with its qualifiers; without SORT the key and "NA" stay.
-void readSort(const SubComObj& print, const CommandDescriptor& descriptor, BldatmanPrintSubcommand& read)
+template <class SubCom>
+void readSort(SubCom& print, CommandDescriptor& descriptor, BldatmanPrintSubcommand& read)
 {
-    const ParamObj* sort = print.getParamObj("SORT");
+    auto* sort = print.getParamObj("SORT");
     if (sort == nullptr) {
         return;
     }
-    const SubComDescriptor* printDescription = descriptor.getSubComDesc("PRINT");
-    const ParamDescriptor* sortDescription =
-        printDescription != nullptr ? printDescription->getParamDesc("SORT") : nullptr;
+    auto* printDescription = descriptor.getSubComDesc("PRINT");
+    auto* sortDescription = printDescription != nullptr ? printDescription->getParamDesc("SORT") : nullptr;
     std::vector<ParamObj> qualifiers;
     if (sortDescription == nullptr || !sort->getStringQualList(qualifiers, *sortDescription, nullptr)) {
         return;
@@ -76,22 +82,11 @@ void readSort(const SubComObj& print, const CommandDescriptor& descriptor, Bldat
 
 }  // namespace
 
-bool BldatmanInputSetting::get_Subcommand_Global()
-{
-    const SubComObj* global = commandSpec_.getSubComObj("");
-    if (global == nullptr || !getVariables(*global)) {
-        return false;
-    }
-    const bool complete = getWith(*global);
-    // PAIRED is read after a failure of WITH as well.
-    variableSubcommand_.paired = readKeyword(global->getParamObj("PAIRED"), "NO", LetterCase::Upper);
-    return complete;
-}
-
-bool BldatmanInputSetting::getVariables(const SubComObj& global)
+template <class SubCom>
+bool BldatmanInputSetting::getVariables(SubCom& global)
 {
     variableSubcommand_.variableNames = readNames(global.getParamObj("VARIABLE"));
-    const ParamObj* list = global.getParamObj("VARIABLE");
+    auto* list = global.getParamObj("VARIABLE");
     const auto positions =
         list != nullptr ? validatedPositions("VARIABLE", *list, global, commandDescriptor_, dataSource_) : std::nullopt;
     if (!positions) {
@@ -107,10 +102,11 @@ bool BldatmanInputSetting::getVariables(const SubComObj& global)
 }
 
 // A variable that is not scale is reported to the host as for VARIABLE, but writes no line of its own: intended.
-bool BldatmanInputSetting::getWith(const SubComObj& global)
+template <class SubCom>
+bool BldatmanInputSetting::getWith(SubCom& global)
 {
     variableSubcommand_.withNames = readNames(global.getParamObj("WITH"));
-    const ParamObj* list = global.getParamObj("WITH");
+    auto* list = global.getParamObj("WITH");
     if (list == nullptr) {
         variableSubcommand_.withNames = variableSubcommand_.variableNames;
         variableSubcommand_.withColumns = variableSubcommand_.variableColumns;
@@ -125,6 +121,18 @@ bool BldatmanInputSetting::getWith(const SubComObj& global)
     return true;
 }
 
+bool BldatmanInputSetting::get_Subcommand_Global()
+{
+    auto* global = commandSpec_.getSubComObj("");
+    if (global == nullptr || !getVariables(*global)) {
+        return false;
+    }
+    const bool complete = getWith(*global);
+    // PAIRED is read after a failure of WITH as well.
+    variableSubcommand_.paired = readKeyword(global->getParamObj("PAIRED"), "NO", LetterCase::Upper);
+    return complete;
+}
+
 void BldatmanInputSetting::readColumns(const std::vector<int>& indices, std::vector<Column>& columns)
 {
     readCaseColumns(indices, dataSource_, columns);
@@ -132,7 +140,7 @@ void BldatmanInputSetting::readColumns(const std::vector<int>& indices, std::vec
 
 void BldatmanInputSetting::getCriteria()
 {
-    const SubComObj* criteria = commandSpec_.getSubComObj("CRITERIA");
+    auto* criteria = commandSpec_.getSubComObj("CRITERIA");
     if (criteria == nullptr) {
         return;
     }
@@ -148,14 +156,14 @@ void BldatmanInputSetting::getCriteria()
 
 void BldatmanInputSetting::getPlot()
 {
-    const SubComObj* plot = commandSpec_.getSubComObj("PLOT");
+    auto* plot = commandSpec_.getSubComObj("PLOT");
     if (plot == nullptr) {
         return;
     }
     BldatmanPlotSubcommand& read = plotSubcommand_;
     read.ratio = plot->getParamObj("RATIO") != nullptr;
     read.refLine = plot->getParamObj("REFLINE") != nullptr;
-    if (const ParamObj* limits = plot->getParamObj("AGREEMENT_LIMITS")) {
+    if (auto* limits = plot->getParamObj("AGREEMENT_LIMITS")) {
         read.agreementLimits = true;
         read.agreementLimitsCi = readKeyword(limits, "", LetterCase::Upper) == "CI";
     }
@@ -164,7 +172,7 @@ void BldatmanInputSetting::getPlot()
 
 void BldatmanInputSetting::getPrint()
 {
-    const SubComObj* print = commandSpec_.getSubComObj("PRINT");
+    auto* print = commandSpec_.getSubComObj("PRINT");
     if (print == nullptr) {
         return;
     }

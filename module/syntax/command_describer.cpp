@@ -10,7 +10,25 @@ namespace bldatman {
 
 namespace {
 
-using namespace UPSpecTypes;
+using UPSpecTypes::ParamSpec;
+
+// What is agreed with the host are the integers. A kind of value is called after what it is used for here; of the
+// others the meaning is the host's, and the name says the number.
+const auto bareKeyword = static_cast<ParamSpec>(0);
+const auto keywordFromList = static_cast<ParamSpec>(3);
+const auto keywordOrLiteral = static_cast<ParamSpec>(4);
+const auto number = static_cast<ParamSpec>(7);
+const auto integer = static_cast<ParamSpec>(9);
+const auto variableList = static_cast<ParamSpec>(16);
+const auto qualifierList = static_cast<ParamSpec>(28);
+const auto subComSpec1 = static_cast<UPSpecTypes::SubComSpec>(1);
+const auto subComSpec2 = static_cast<UPSpecTypes::SubComSpec>(2);
+const auto bracketOption0 = static_cast<UPSpecTypes::BracketOptions>(0);
+const auto bracketOption3 = static_cast<UPSpecTypes::BracketOptions>(3);
+const auto qualifOption0 = static_cast<UPSpecTypes::QualifOptions>(0);
+const auto qualifOption1 = static_cast<UPSpecTypes::QualifOptions>(1);
+const auto lowerBdryOption1 = static_cast<UPSpecTypes::LowerBdryOptions>(1);
+const auto upperBdryOption1 = static_cast<UPSpecTypes::UpperBdryOptions>(1);
 
 void addValues(ParamDescriptor& parameter, std::initializer_list<const char*> values)
 {
@@ -22,14 +40,14 @@ void addValues(ParamDescriptor& parameter, std::initializer_list<const char*> va
 /// One subcommand on its way into the command's description. Its descriptors live until it has been added.
 class Subcommand {
 public:
-    Subcommand(const char* name, SubComSpec kind)
+    Subcommand(const char* name, UPSpecTypes::SubComSpec kind)
         : descriptor_(name, kind, false, false)
     {
     }
 
     ParamDescriptor& makeParameter(const char* name, ParamSpec kind, bool secondFlag = true)
     {
-        return parameters_.emplace_back(name, kind, false, secondFlag, NoBracket);
+        return parameters_.emplace_back(name, kind, false, secondFlag, bracketOption0);
     }
 
     /// CRITERIA: an optional parameter that has a value.
@@ -37,7 +55,7 @@ public:
     {
         ParamDescriptor& parameter = makeParameter(name, kind);
         parameter.setParamRequired(false);
-        parameter.setQualifOption(QualifOption0);
+        parameter.setQualifOption(qualifOption0);
         return parameter;
     }
 
@@ -52,26 +70,26 @@ public:
 
     void add(const ParamDescriptor& parameter) { descriptor_.addParamDesc(parameter); }
 
-    void addSwitch(const char* name) { add(makeSwitch(name, BareKeyword)); }
+    void addSwitch(const char* name) { add(makeSwitch(name, bareKeyword)); }
 
     void addKeywordCriterion(const char* name, std::initializer_list<const char*> values)
     {
-        ParamDescriptor& parameter = makeCriterion(name, KeywordValue);
+        ParamDescriptor& parameter = makeCriterion(name, keywordFromList);
         addValues(parameter, values);
         add(parameter);
     }
 
     void addLevelCriterion(const char* name)
     {
-        ParamDescriptor& parameter = makeCriterion(name, Number);
-        parameter.setLowerBoundary(0.0, LowerBdryInclusive);
-        parameter.setUpperBoundary(100.0, UpperBdryInclusive);
+        ParamDescriptor& parameter = makeCriterion(name, number);
+        parameter.setLowerBoundary(0.0, lowerBdryOption1);
+        parameter.setUpperBoundary(100.0, upperBdryOption1);
         add(parameter);
     }
 
     void addQualifier(ParamDescriptor& parameter, const char* name, std::initializer_list<const char*> values)
     {
-        ParamDescriptor& qualifier = makeParameter(name, KeywordValue, false);
+        ParamDescriptor& qualifier = makeParameter(name, keywordFromList, false);
         addValues(qualifier, values);
         parameter.addQualifDesc(qualifier);
     }
@@ -85,7 +103,7 @@ private:
 
 void addAgreementLimits(Subcommand& criteria)
 {
-    ParamDescriptor& limits = criteria.makeCriterion("AGREEMENT_LIMITS", KeywordOrLiteral);
+    ParamDescriptor& limits = criteria.makeCriterion("AGREEMENT_LIMITS", keywordOrLiteral);
     addValues(limits, {"TWOSD", "THREESD"});
     for (int coverage = 1; coverage <= 99; ++coverage) {
         limits.addStringValue(std::to_string(coverage));
@@ -95,16 +113,16 @@ void addAgreementLimits(Subcommand& criteria)
 
 void addRows(Subcommand& print)
 {
-    ParamDescriptor& rows = print.makeParameter("ROWS", Integer);
+    ParamDescriptor& rows = print.makeParameter("ROWS", integer);
     rows.setParamRequired(false);
-    rows.setQualifOption(QualifOption1);
+    rows.setQualifOption(qualifOption1);
     print.add(rows);
 }
 
 void addSort(Subcommand& print)
 {
-    ParamDescriptor& sort = print.makeParameter("SORT", QualifierList, false);
-    sort.setQualifOption(QualifOption0);
+    ParamDescriptor& sort = print.makeParameter("SORT", qualifierList, false);
+    sort.setQualifOption(qualifOption0);
     print.addQualifier(sort, "BY", {"MEASUREMENT", "DIFFERENCE", "RATIO", "MEAN"});
     print.addQualifier(sort, "DESCENDING", {"TRUE", "FALSE"});
     print.add(sort);
@@ -135,9 +153,9 @@ int BldatmanCommandDescriber::describe()
     }
 }
 
-int BldatmanCommandDescriber::m_setSubCommandDescription(int number)
+int BldatmanCommandDescriber::m_setSubCommandDescription(int subcommand)
 {
-    switch (number) {
+    switch (subcommand) {
     case 0:
         addVariables();
         return 0;
@@ -159,19 +177,19 @@ int BldatmanCommandDescriber::m_setSubCommandDescription(int number)
 // No parameter here is marked as not required, unlike those of the other subcommands: intended.
 void BldatmanCommandDescriber::addVariables()
 {
-    SubComDescriptor global("", SubComSpec1, false, false);
+    SubComDescriptor global("", subComSpec1, false, false);
 
-    ParamDescriptor variable("VARIABLE", VariableList, true, true, VariableListBracket);
-    variable.setQualifOption(QualifOption0);
+    ParamDescriptor variable("VARIABLE", variableList, true, true, bracketOption3);
+    variable.setQualifOption(qualifOption0);
     global.addParamDesc(variable);
 
-    ParamDescriptor with("WITH", VariableList, false, true, VariableListBracket);
+    ParamDescriptor with("WITH", variableList, false, true, bracketOption3);
     // On VARIABLE, of which the subcommand has its own copy already: WITH is to have no option of its own.
-    variable.setQualifOption(QualifOption1);
+    variable.setQualifOption(qualifOption1);
     global.addParamDesc(with);
 
-    ParamDescriptor paired("PAIRED", KeywordValue, false, true, NoBracket);
-    paired.setQualifOption(QualifOption1);
+    ParamDescriptor paired("PAIRED", keywordFromList, false, true, bracketOption0);
+    paired.setQualifOption(qualifOption1);
     addValues(paired, {"YES", "NO"});
     global.addParamDesc(paired);
 
@@ -180,7 +198,7 @@ void BldatmanCommandDescriber::addVariables()
 
 void BldatmanCommandDescriber::addCriteria()
 {
-    Subcommand criteria("CRITERIA", SubComSpec1);
+    Subcommand criteria("CRITERIA", subComSpec1);
     criteria.addKeywordCriterion("SCOPE", {"ANALYSIS", "LISTWISE"});
     criteria.addKeywordCriterion("CLASSMISSING", {"EXCLUDE", "INCLUDE"});
     criteria.addKeywordCriterion("LOGTRANSFORM", {"FALSE", "TRUE"});
@@ -193,7 +211,7 @@ void BldatmanCommandDescriber::addCriteria()
 
 void BldatmanCommandDescriber::addPrint()
 {
-    Subcommand print("PRINT", SubComSpec2);
+    Subcommand print("PRINT", subComSpec2);
     print.addSwitch("DETAILS");
     addRows(print);
     addSort(print);
@@ -205,11 +223,11 @@ void BldatmanCommandDescriber::addPrint()
 
 void BldatmanCommandDescriber::addPlot()
 {
-    Subcommand plot("PLOT", SubComSpec2);
+    Subcommand plot("PLOT", subComSpec2);
     plot.addSwitch("RATIO");
     plot.addSwitch("REFLINE");
-    ParamDescriptor& limits = plot.makeSwitch("AGREEMENT_LIMITS", KeywordValue);
-    limits.setQualifOption(QualifOption1);
+    ParamDescriptor& limits = plot.makeSwitch("AGREEMENT_LIMITS", keywordFromList);
+    limits.setQualifOption(qualifOption1);
     addValues(limits, {"CI"});
     plot.add(limits);
     plot.addSwitch("CI_MEANDIFF");

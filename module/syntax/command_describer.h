@@ -17,7 +17,7 @@ public:
     int describe();
 
     /// Adds subcommand 0, 1, 2 or 3, in the order above. 0: done; 1: no such number, reported likewise.
-    int m_setSubCommandDescription(int number);
+    int m_setSubCommandDescription(int subcommand);
 
 private:
     void addVariables();

@@ -16,7 +16,7 @@ constexpr char separator = '\\';
 
 std::string hostLanguageCode()
 {
-    const OLang language;
+    OLang language;  // whether its getter is constant is the host's affair
     std::string code = language.GetLanguageCode();
     std::ranges::replace(code, '-', '_');
     return code;
@@ -24,7 +24,8 @@ std::string hostLanguageCode()
 
 std::string hostLanguageFolder()
 {
-    return PathFactory::getPathInstance(languageFolderKind)->getPath()->GetU8();
+    PathFinder* finder = PathFactory::getPathInstance(languageFolderKind);
+    return finder->getPath()->GetU8();  // the name of the finder's operation is the host's, and stands here alone
 }
 
 /// Drops one separator from the end. The standard library's own words for an empty path differ between

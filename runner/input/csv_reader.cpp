@@ -135,7 +135,7 @@ std::vector<TextVariable> prepareTexts(DataSet& dataSet)
     for (std::size_t i = 0; i < dataSet.variables.size(); ++i) {
         Variable& variable = dataSet.variables[i];
         if (variable.firstText) {
-            variable.level = QUVO_Variable_Enumerations::LevelNominal;
+            variable.level = standin::levels::nominal;
             variable.values.clear();
             texts.push_back({i, {}});
         }

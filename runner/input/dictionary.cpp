@@ -36,9 +36,8 @@ struct LevelName {
     MeasurementLevel level;
 };
 
-constexpr std::array<LevelName, 3> levelNames{{{"scale", QUVO_Variable_Enumerations::LevelScale},
-                                               {"nominal", QUVO_Variable_Enumerations::LevelNominal},
-                                               {"ordinal", QUVO_Variable_Enumerations::LevelOrdinal}}};
+constexpr std::array<LevelName, 3> levelNames{
+    {{"scale", standin::levels::scale}, {"nominal", standin::levels::nominal}, {"ordinal", standin::levels::ordinal}}};
 
 /// Turns the text into entries, checked against the data set.
 class DictionaryReader {

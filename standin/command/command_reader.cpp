@@ -147,7 +147,7 @@ private:
     {
         refuseSecond(reader_.peek(), description.name, before);
         reader_.take();
-        if (description.kind == UPSpecTypes::QualifierList) {
+        if (description.kind == kinds::qualifierList) {
             return {description.name, parseQualifiers(description)};
         }
         return {description.name, parseValue(reader_, description)};

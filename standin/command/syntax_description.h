@@ -9,11 +9,28 @@
 
 namespace standin {
 
+/// How this host reads the numbers for the kind of a parameter's value.
+namespace kinds {
+inline constexpr UPSpecTypes::ParamSpec bareKeyword{0};       ///< no value; presence alone counts
+inline constexpr UPSpecTypes::ParamSpec keyword{3};           ///< one of the allowed values
+inline constexpr UPSpecTypes::ParamSpec keywordOrLiteral{4};  ///< likewise, in quotes too
+inline constexpr UPSpecTypes::ParamSpec number{7};
+inline constexpr UPSpecTypes::ParamSpec integer{9};
+inline constexpr UPSpecTypes::ParamSpec variableList{16};
+inline constexpr UPSpecTypes::ParamSpec qualifierList{28};
+}  // namespace kinds
+
+/// How it reads those for parentheses around a value.
+namespace brackets {
+inline constexpr UPSpecTypes::BracketOptions none{0};
+inline constexpr UPSpecTypes::BracketOptions aroundVariables{3};  ///< allowed, not required
+}  // namespace brackets
+
 struct ParameterDescription {
     std::string name;
-    UPSpecTypes::ParamSpec kind = UPSpecTypes::BareKeyword;
+    UPSpecTypes::ParamSpec kind = kinds::bareKeyword;
     bool required = false;
-    UPSpecTypes::BracketOptions brackets = UPSpecTypes::NoBracket;
+    UPSpecTypes::BracketOptions brackets = brackets::none;
     bool valueRequired = true;
     std::optional<UPSpecTypes::QualifOptions> qualifierOption;  ///< kept as given; its meaning is not this host's
     std::optional<double> lowerBound;                           ///< inclusive

@@ -28,7 +28,7 @@ KeywordText parseKeyword(TokenReader& reader, const ParameterDescription& descri
 {
     const Token& token = reader.peek();
     const bool literal = token.kind == Token::Kind::Quoted;
-    const bool readable = reader.atWord() || (literal && description.kind == UPSpecTypes::KeywordOrLiteral);
+    const bool readable = reader.atWord() || (literal && description.kind == kinds::keywordOrLiteral);
     if (readable && description.values.empty()) {
         return {reader.take().text, literal};
     }
@@ -132,7 +132,7 @@ std::vector<VariableItem> parseBracketedVariables(TokenReader& reader)
 
 std::vector<VariableItem> parseVariables(TokenReader& reader, const ParameterDescription& description)
 {
-    if (description.brackets == UPSpecTypes::VariableListBracket && reader.takeIf("(")) {
+    if (description.brackets == brackets::aroundVariables && reader.takeIf("(")) {
         return parseBracketedVariables(reader);
     }
     if (!atVariable(reader)) {
@@ -149,7 +149,7 @@ std::vector<VariableItem> parseVariables(TokenReader& reader, const ParameterDes
 
 ParsedParameter::Value parseValue(TokenReader& reader, const ParameterDescription& description)
 {
-    const bool takesValue = description.kind != UPSpecTypes::BareKeyword;
+    const bool takesValue = description.kind != kinds::bareKeyword;
     if (!reader.peek().is("=")) {
         if (takesValue && description.valueRequired) {
             TokenReader::fail(reader.peek(), "expected \"=\" and a value after " + description.name);
@@ -160,12 +160,12 @@ ParsedParameter::Value parseValue(TokenReader& reader, const ParameterDescriptio
         TokenReader::fail(reader.peek(), "but " + description.name + " stands alone");
     }
     reader.take();
-    switch (description.kind) {
-    case UPSpecTypes::Number:
+    switch (int{description.kind}) {
+    case kinds::number:
         return parseNumber(reader, description);
-    case UPSpecTypes::Integer:
+    case kinds::integer:
         return parseInteger(reader, description);
-    case UPSpecTypes::VariableList:
+    case kinds::variableList:
         return parseVariables(reader, description);
     default:
         return parseKeyword(reader, description);

@@ -13,6 +13,13 @@
 
 namespace standin {
 
+/// The measurement levels that variables have in this host.
+namespace levels {
+inline constexpr QUVO_Variable_Enumerations::MeasurementLevel nominal{1};
+inline constexpr QUVO_Variable_Enumerations::MeasurementLevel ordinal{2};
+inline constexpr QUVO_Variable_Enumerations::MeasurementLevel scale{3};
+}  // namespace levels
+
 /// The first cell of a variable that is neither a number nor missing.
 struct FirstText {
     std::size_t line;  ///< of the data file, from 1
@@ -22,7 +29,7 @@ struct FirstText {
 struct Variable {
     std::string name;   ///< UTF-8, not empty
     std::string label;  ///< empty: none
-    QUVO_Variable_Enumerations::MeasurementLevel level = QUVO_Variable_Enumerations::LevelScale;
+    QUVO_Variable_Enumerations::MeasurementLevel level = levels::scale;
     std::map<double, std::string> valueLabels;
     std::vector<double> values;  ///< one per case; texts as codes 1, 2, ... in the order of their appearance
     std::optional<FirstText>

@@ -90,7 +90,7 @@ const std::vector<Breach> all{
      "ACAInputAdapter::ACAInputAdapter: the validity specification is not alive"},
     {"IteratorOverADeletedAdapter", [](Guest& g) { ACAProcDataSourceIter(*deleted(g.adapter), true); },
      "ACAProcDataSourceIter::ACAProcDataSourceIter: the adapter is not alive"},
-    {"CellOfADeletedTable", [](Guest& g) { Cell(deleted(g.table), CellTypeStandard); },
+    {"CellOfADeletedTable", [](Guest& g) { Cell(deleted(g.table), CellType{1}); },
      "Cell::Cell: the table is not alive"},
     {"CellForADeletedDocument", [](Guest& g) { g.without(g.document).cell(); },
      "Cell::Cell: the document is not alive"},

@@ -33,7 +33,7 @@ struct Guest {
         table->set_cells(&*body);
     }
 
-    std::unique_ptr<Cell> cell() { return std::make_unique<Cell>(&*table, CellTypeStandard); }
+    std::unique_ptr<Cell> cell() { return std::make_unique<Cell>(&*table, CellType{1}); }
 
     std::unique_ptr<Descendants> group(int leaves = 0)
     {
@@ -121,7 +121,7 @@ struct Guest {
     StatJSONConverter converter{*procedure};
     std::string tableName = "table";
     std::optional<Table> table{std::in_place, &*document, tableName};
-    std::optional<Cell> spare{std::in_place, &*table, CellTypeStandard};
+    std::optional<Cell> spare{std::in_place, &*table, CellType{1}};
     std::optional<Dimension> dimension{std::in_place, &*table, group().release(), group().release()};
     std::optional<Cells> body{std::in_place, &*table};
     std::unique_ptr<Descendants> tree = group();

@@ -29,7 +29,7 @@ std::vector<std::string> cellsOf(const std::string& line)
 void addText(standin::Variable& variable, const std::string& text, std::size_t line)
 {
     if (!variable.firstText) {
-        variable.level = QUVO_Variable_Enumerations::LevelNominal;
+        variable.level = standin::levels::nominal;
         variable.firstText = {line, text};
     }
     auto& labels = variable.valueLabels;

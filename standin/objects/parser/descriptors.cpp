@@ -18,14 +18,14 @@ const Descriptor* findByName(const std::list<Descriptor>& descriptors, const std
 
 }  // namespace
 
-ParamDescriptor::ParamDescriptor(const std::string& name, UPSpecTypes::ParamSpec kind, bool required, bool second,
+ParamDescriptor::ParamDescriptor(const std::string& name, UPSpecTypes::ParamSpec kind, bool first, bool second,
                                  UPSpecTypes::BracketOptions brackets)
 {
-    HostCall call(HostCall::Constructor{}, "ParamDescriptor::ParamDescriptor", name, kind, required, second, brackets);
+    HostCall call(HostCall::Constructor{}, "ParamDescriptor::ParamDescriptor", name, kind, first, second, brackets);
     data = std::make_unique<Data>();
     data->description.name = name;
     data->description.kind = kind;
-    data->description.required = required;
+    data->description.required = first;  // as this host reads the flag
     data->description.brackets = brackets;
     call.creates(this);
 }

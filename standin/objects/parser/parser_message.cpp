@@ -40,12 +40,12 @@ namespace {
 
 const char* levelName(QUVO_Variable_Enumerations::MeasurementLevel level)
 {
-    switch (level) {
-    case QUVO_Variable_Enumerations::LevelNominal:
+    switch (int{level}) {
+    case standin::levels::nominal:
         return "nominal";
-    case QUVO_Variable_Enumerations::LevelOrdinal:
+    case standin::levels::ordinal:
         return "ordinal";
-    case QUVO_Variable_Enumerations::LevelScale:
+    case standin::levels::scale:
         return "scale";
     default:
         return "of unknown level";

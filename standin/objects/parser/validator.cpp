@@ -70,7 +70,7 @@ std::optional<int> VarSpecObj::Data::validate(const QuvoVarName& variable) const
         return std::nullopt;
     }
     const standin::Variable& found = session.dataSet.variables[*position];
-    if (found.level == QUVO_Variable_Enumerations::LevelScale && found.firstText) {
+    if (found.level == standin::levels::scale && found.firstText) {
         session.complain(namedIn(name, parameter) + " is declared scale, but " +
                          standin::whereTextStands(*found.firstText));
         return std::nullopt;

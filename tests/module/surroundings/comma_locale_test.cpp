@@ -33,7 +33,10 @@ protected:
         }
         FAIL() << "no locale with a decimal comma; the package locales makes one";
     }
-    void TearDown() override { EXPECT_NE(std::setlocale(LC_NUMERIC, "C"), nullptr); }
+    void TearDown() override
+    {
+        EXPECT_NE(std::setlocale(LC_NUMERIC, "C"), nullptr);
+    }
 };
 
 /// All that comes of one command, as texts.

@@ -23,9 +23,9 @@ inline std::string asText(const standin::DataSet& dataSet)
     for (const standin::Variable& variable : dataSet.variables) {
         text << (text.tellp() > 0 ? " | " : "") << variable.name;
         text << (variable.label.empty() ? "" : " \"" + variable.label + "\"");
-        text << (variable.level == QUVO_Variable_Enumerations::LevelNominal   ? " nominal"
-                 : variable.level == QUVO_Variable_Enumerations::LevelOrdinal ? " ordinal"
-                                                                              : "");
+        text << (variable.level == standin::levels::nominal   ? " nominal"
+                 : variable.level == standin::levels::ordinal ? " ordinal"
+                                                              : "");
         for (const auto& [value, label] : variable.valueLabels) {
             text << " {" << value << ':' << label << '}';
         }

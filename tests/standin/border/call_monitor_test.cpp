@@ -5,6 +5,7 @@
 #include "host/common_areas.h"
 #include "host/output.h"
 #include "host/procedure.h"
+#include "standin/command/syntax_description.h"
 #include "standin/session/session.h"
 #include "tests/support/json_text.h"
 #include "tests/support/traced_session.h"
@@ -71,7 +72,7 @@ protected:
     StatJSONGenerator document_{"", ""};
     std::string name_ = "name";
     Table table_{&document_, name_};
-    Cell cell_{&table_, CellTypeStandard};
+    Cell cell_{&table_, CellType{1}};
 };
 
 TEST_F(Trace, WritesPlainArgumentsAndLeavesOutOtherObjects)
@@ -79,7 +80,7 @@ TEST_F(Trace, WritesPlainArgumentsAndLeavesOutOtherObjects)
     const double infinity = std::numeric_limits<double>::infinity();
     Chart chart(document_);
     std::vector<std::string> texts{"1", "2"};
-    EXPECT_EQ(of([&] { table_.set_default_cell_format(QUVO_Format::FormatFixed, 10, -3); }),
+    EXPECT_EQ(of([&] { table_.set_default_cell_format(QUVO_Format::FormatType{5}, 10, -3); }),
               (Calls{"Table::set_default_cell_format [5,10,-3]"}));
     EXPECT_EQ(of([&] { chart.addToDataVector(texts, "x\"MinMax\"\n"); }),
               (Calls{"StatGPLGraph::addToDataVector [2,\"x\\\"MinMax\\\"\\n\"]"}));
@@ -109,9 +110,9 @@ TEST_F(Trace, ShowsTheCopiesOfTheModuleButNotThoseOfTheHost)
 {
     EXPECT_EQ(
         of([] {
-            const ParamDescriptor rows("ROWS", UPSpecTypes::Integer, false, true, UPSpecTypes::NoBracket);
+            const ParamDescriptor rows("ROWS", kinds::integer, false, true, brackets::none);
             ParamDescriptor copy(rows);
-            SubComDescriptor print("PRINT", UPSpecTypes::SubComSpec2, false, false);
+            SubComDescriptor print("PRINT", UPSpecTypes::SubComSpec{2}, false, false);
             copy.setValueRequired(false);
             print.addParamDesc(copy);
         }),
@@ -125,7 +126,7 @@ TEST_F(Trace, ShowsTheCopiesOfTheModuleButNotThoseOfTheHost)
 TEST_F(Trace, ShowsWhatTheHostDeletesForTheModule)
 {
     auto group = std::make_unique<Descendants>(&table_);
-    group->addCell(std::make_unique<Cell>(&table_, CellTypeStandard).release());
+    group->addCell(std::make_unique<Cell>(&table_, CellType{1}).release());
     EXPECT_EQ(of([&group] { group.reset(); }), (Calls{"Descendants::~Descendants []", "Cell::~Cell []"}));
 }
 
@@ -144,7 +145,7 @@ TEST(CallMonitor, CountsWhatTheModuleCallsAndApartFromItWhatMayFail)
     {
         const BpProcedure procedure("NAME", 10);
         pvGetCmnBpr();
-        SubComDescriptor leading("", UPSpecTypes::SubComSpec1, false, false);
+        SubComDescriptor leading("", UPSpecTypes::SubComSpec{1}, false, false);
         CommandDescriptor command("NAME");
         command.addSubComDesc(leading);
     }
@@ -217,20 +218,20 @@ private:
         [this] { record_ = cases_->Next(); },
         [this] { output_ += std::to_string(*record_->GetAll()); },
         [this] { validator_.emplace("INPUT", "", description_, &source_, true); },
-        [this] { validator_->ValidateVariables(unknown_, UPSpecTypes::RepeatVarAllowed); },
+        [this] { validator_->ValidateVariables(unknown_, UPSpecTypes::RepeatVarOptions{0}); },
         [this] { document_.emplace("title", ""); },
         [this] { table_.emplace(&*document_, name_); },
         [this] { table_->addFootnoteRefs(0); },
         [this] { table_->add_footnote("note"); },
         [this] { rows_ = new Descendants(&*table_); },
         [this] { columns_ = new Descendants(&*table_); },
-        [this] { cell_ = new Cell(&*table_, CellTypeStandard); },
+        [this] { cell_ = new Cell(&*table_, CellType{1}); },
         [this] { rows_->addCell(cell_); },
-        [this] { cell_ = new Cell(&*table_, CellTypeStandard); },
+        [this] { cell_ = new Cell(&*table_, CellType{1}); },
         [this] { columns_->addCell(cell_); },
         [this] { dimension_.emplace(&*table_, rows_, columns_); },
         [this] { body_.emplace(&*table_); },
-        [this] { cell_ = new Cell(&*table_, CellTypeStandard); },
+        [this] { cell_ = new Cell(&*table_, CellType{1}); },
         [this] { cell_->setValue(1.5); },
         [this] { body_->addCells({cell_}); },
         [this] { table_->set_dimensions(&*dimension_); },

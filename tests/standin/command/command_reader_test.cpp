@@ -34,23 +34,24 @@ ParameterDescription bounded(ParameterDescription description, double lower, dou
 /// A procedure of nobody's, with a parameter of every kind.
 CommandDescription widget()
 {
-    ParameterDescription input = parameter("INPUT", VariableList);
+    ParameterDescription input = parameter("INPUT", kinds::variableList);
     input.required = true;
-    input.brackets = VariableListBracket;
-    ParameterDescription tint = parameter("TINT", KeywordValue, {"Red", "BLUE"});
+    input.brackets = brackets::aroundVariables;
+    ParameterDescription tint = parameter("TINT", kinds::keyword, {"Red", "BLUE"});
     tint.valueRequired = false;
-    ParameterDescription sort = parameter("SORT", QualifierList);
-    sort.qualifiers = {parameter("BY", KeywordValue, {"MEAN", "RATIO"}), bounded(parameter("DEPTH", Integer), 1, 9),
-                       parameter("TWICE", BareKeyword)};
-    ParameterDescription key = parameter("KEY", Integer);
+    ParameterDescription sort = parameter("SORT", kinds::qualifierList);
+    sort.qualifiers = {parameter("BY", kinds::keyword, {"MEAN", "RATIO"}),
+                       bounded(parameter("DEPTH", kinds::integer), 1, 9), parameter("TWICE", kinds::bareKeyword)};
+    ParameterDescription key = parameter("KEY", kinds::integer);
     key.required = true;
-    return {"WIDGET",
-            {{"", {input, parameter("EXTRA", VariableList), parameter("MODE", KeywordValue, {"Fast", "slow"})}},
-             {"SET",
-              {tint, parameter("LIMIT", KeywordOrLiteral, {"TwoSd", "95"}), parameter("NOTE", KeywordOrLiteral),
-               bounded(parameter("LEVEL", Number), 0, 100), parameter("COUNT", Integer), parameter("FLAG", BareKeyword),
-               sort}},
-             {"LOCK", {key, parameter("LIST", VariableList)}}}};
+    return {
+        "WIDGET",
+        {{"", {input, parameter("EXTRA", kinds::variableList), parameter("MODE", kinds::keyword, {"Fast", "slow"})}},
+         {"SET",
+          {tint, parameter("LIMIT", kinds::keywordOrLiteral, {"TwoSd", "95"}),
+           parameter("NOTE", kinds::keywordOrLiteral), bounded(parameter("LEVEL", kinds::number), 0, 100),
+           parameter("COUNT", kinds::integer), parameter("FLAG", kinds::bareKeyword), sort}},
+         {"LOCK", {key, parameter("LIST", kinds::variableList)}}}};
 }
 
 /// Parameters with the types of their values, so that no two kinds look alike.

@@ -2,6 +2,7 @@
 #include "host/command_parser.h"
 
 #include "host/procedure.h"
+#include "standin/command/syntax_description.h"
 #include "standin/session/session.h"
 #include "tests/support/traced_session.h"
 
@@ -20,22 +21,23 @@ class ParsedCommand : public testing::Test {
 protected:
     ParsedCommand()
     {
-        host_.session.dataSet.variables[3].level = QUVO_Variable_Enumerations::LevelOrdinal;
-        host_.session.dataSet.variables[4].level = QUVO_Variable_Enumerations::LevelScale;
-        SubComDescriptor leading("", SubComSpec1, false, false);
-        ParamDescriptor variables("INPUT", VariableList, true, true, VariableListBracket);
+        host_.session.dataSet.variables[3].level = levels::ordinal;
+        host_.session.dataSet.variables[4].level = levels::scale;
+        SubComDescriptor leading("", SubComSpec{1}, false, false);
+        ParamDescriptor variables("INPUT", kinds::variableList, true, true, brackets::aroundVariables);
         variables.setParamRequired(false);
         leading.addParamDesc(variables);
         description_.addSubComDesc(leading);
-        SubComDescriptor set("SET", SubComSpec2, false, false);
-        for (const ParamSpec kind : {KeywordValue, KeywordOrLiteral, Number, Integer, BareKeyword}) {
-            ParamDescriptor parameter("P" + std::to_string(kind), kind, false, true, NoBracket);
+        SubComDescriptor set("SET", SubComSpec{2}, false, false);
+        for (const ParamSpec kind :
+             {kinds::keyword, kinds::keywordOrLiteral, kinds::number, kinds::integer, kinds::bareKeyword}) {
+            ParamDescriptor parameter("P" + std::to_string(kind), kind, false, true, brackets::none);
             parameter.setValueRequired(false);
             set.addParamDesc(parameter);
             parameter.addStringValue("too late, the subcommand has its own copy");
         }
-        ParamDescriptor sort("SORT", QualifierList, false, false, NoBracket);
-        sort.addQualifDesc(ParamDescriptor("BY", KeywordValue, false, false, NoBracket));
+        ParamDescriptor sort("SORT", kinds::qualifierList, false, false, brackets::none);
+        sort.addQualifDesc(ParamDescriptor("BY", kinds::keyword, false, false, brackets::none));
         set.addParamDesc(sort);
         description_.addSubComDesc(set);
     }
@@ -86,7 +88,7 @@ protected:
         EXPECT_TRUE(input->getStringList(names_) && input->getVarList(variables));
         EXPECT_EQ(names_.size(), variables.size());
         VarSpecObj validator("INPUT", "", description_, &source_, true);
-        const bool valid = validator.ValidateVariables(variables, RepeatVarAllowed);
+        const bool valid = validator.ValidateVariables(variables, RepeatVarOptions{0});
         positions_ = validator.GetValidVarList();
         return valid;
     }
