@@ -14,13 +14,15 @@
 
 namespace tests {
 
+/// Its one statement is its name, for which it calls the host back.
 class Chart : public StatGPLGraph {
 public:
     using StatGPLGraph::StatGPLGraph;
 
     void writeGPL(rapidjson::Value& graph, rapidjson::MemoryPoolAllocator<rapidjson::CrtAllocator>& allocator) override
     {
-        graph.AddMember("gpl", rapidjson::Value(rapidjson::kArrayType), allocator);
+        rapidjson::Value statements(rapidjson::kArrayType);
+        graph.AddMember("gpl", statements.PushBack(rapidjson::Value(getName(), allocator), allocator), allocator);
     }
 };
 
