@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <sstream>
 #include <string>
 #include <utility>
@@ -15,20 +16,10 @@ using namespace UPSpecTypes;
 /// What goes in and what must come out.
 using Cases = std::vector<std::pair<std::string, std::string>>;
 
-ParameterDescription parameter(const std::string& name, ParamSpec kind, const std::vector<std::string>& values = {})
+ParameterDescription parameter(const std::string& name, ParamSpec kind, const std::vector<std::string>& values = {},
+                               std::optional<double> lower = {}, std::optional<double> upper = {})
 {
-    ParameterDescription description;
-    description.name = name;
-    description.kind = kind;
-    description.values = values;
-    return description;
-}
-
-ParameterDescription bounded(ParameterDescription description, double lower, double upper)
-{
-    description.lowerBound = lower;
-    description.upperBound = upper;
-    return description;
+    return {name, kind, false, NoBracket, true, {}, lower, upper, values, {}};
 }
 
 /// A procedure of nobody's, with a parameter of every kind.
@@ -40,17 +31,17 @@ CommandDescription widget()
     ParameterDescription tint = parameter("TINT", KeywordValue, {"Red", "BLUE"});
     tint.valueRequired = false;
     ParameterDescription sort = parameter("SORT", QualifierList);
-    sort.qualifiers = {parameter("BY", KeywordValue, {"MEAN", "RATIO"}), bounded(parameter("DEPTH", Integer), 1, 9),
+    sort.qualifiers = {parameter("BY", KeywordValue, {"MEAN", "RATIO"}), parameter("DEPTH", Integer, {}, 1, 9),
                        parameter("TWICE", BareKeyword)};
     ParameterDescription key = parameter("KEY", Integer);
     key.required = true;
-    return {"WIDGET",
-            {{"", {input, parameter("EXTRA", VariableList), parameter("MODE", KeywordValue, {"Fast", "slow"})}},
-             {"SET",
-              {tint, parameter("LIMIT", KeywordOrLiteral, {"TwoSd", "95"}), parameter("NOTE", KeywordOrLiteral),
-               bounded(parameter("LEVEL", Number), 0, 100), parameter("COUNT", Integer), parameter("FLAG", BareKeyword),
-               sort}},
-             {"LOCK", {key, parameter("LIST", VariableList)}}}};
+    return {
+        "WIDGET",
+        {{"", {input, parameter("EXTRA", VariableList), parameter("MODE", KeywordValue, {"Fast", "slow"})}},
+         {"SET",
+          {tint, parameter("LIMIT", KeywordOrLiteral, {"TwoSd", "95"}), parameter("NOTE", KeywordOrLiteral),
+           parameter("LEVEL", Number, {}, 0, 100), parameter("COUNT", Integer), parameter("FLAG", BareKeyword), sort}},
+         {"LOCK", {key, parameter("LIST", VariableList)}}}};
 }
 
 /// Parameters with the types of their values, so that no two kinds look alike.
@@ -79,32 +70,34 @@ std::string shown(const std::vector<ParsedParameter>& parameters)
 
 std::string shown(const ParsedCommand& command)
 {
-    std::string text = shown(command.subcommands.at(0).parameters);
-    for (std::size_t i = 1; i < command.subcommands.size(); ++i) {
-        text += " " + command.subcommands[i].name + "{" + shown(command.subcommands[i].parameters) + "}";
+    std::string text;
+    for (const auto& [name, parameters] : command.subcommands) {
+        text += name.empty() ? shown(parameters) : " " + name + "{" + shown(parameters) + "}";
     }
     return text;
 }
 
 /// The parsed command, or place and reason of its refusal.
-std::string outcomeOf(const CommandText& command, const CommandDescription& description = widget())
+std::string outcomeOf(const std::string& text, bool nameMayBeMissing = true)
 {
+    CommandText command = singleCommand(text);
+    command.nameMayBeMissing = nameMayBeMissing;
     try {
-        return shown(parseCommand(command, description));
+        return shown(parseCommand(command, widget()));
     } catch (const CommandError& error) {
-        const TextPlace place = placeOf(*command.text, error.offset());
-        return std::to_string(place.line) + ":" + std::to_string(place.column) + " " + error.what();
+        const auto [line, column] = placeOf(text, error.offset());
+        return std::to_string(line) + ":" + std::to_string(column) + " " + error.what();
     }
 }
 
 void expectOutcomes(const Cases& cases, const std::string& before = "", const std::string& after = "")
 {
     for (const auto& [text, outcome] : cases) {
-        EXPECT_EQ(outcomeOf(singleCommand(before + text + after)), outcome) << before << text << after;
+        EXPECT_EQ(outcomeOf(before + text + after), outcome) << before << text << after;
     }
 }
 
-TEST(CommandReader, DeliversParametersOfEveryKindInTheOrderGiven)
+TEST(CommandReader, DeliversParametersInTheOrderGivenAndKeywordsInTheAllowedSpelling)
 {
     expectOutcomes({
         {"WIDGET MODE=slow INPUT=a;", "MODE=slow INPUT=<a>"},
@@ -115,12 +108,6 @@ TEST(CommandReader, DeliversParametersOfEveryKindInTheOrderGiven)
         {"INPUT=a SET(SORT FLAG)", "INPUT=<a> SET{SORT() FLAG}"},
         {"INPUT=a SET(TINT FLAG)", "INPUT=<a> SET{TINT FLAG}"},
         {"#;\n\tINPUT = a # \"b\r\n c# SET(\r d\n SET ( FLAG)#", "INPUT=<a><c><d> SET{FLAG}"},
-    });
-}
-
-TEST(CommandReader, TakesKeywordsInAnyCaseAndDeliversTheAllowedSpelling)
-{
-    expectOutcomes({
         {"widget Input=A mOdE=FAST Set(tint=blue)", "INPUT=<A> MODE=Fast SET{TINT=BLUE}"},
         {"INPUT=a set(limit=TWOSD Sort(by=mean))", "INPUT=<a> SET{LIMIT=TwoSd SORT(BY=MEAN)}"},
         {"INPUT=a set(note=AnyWord-7%)", "INPUT=<a> SET{NOTE=AnyWord-7%}"},
@@ -185,13 +172,9 @@ TEST(CommandReader, TakesBareAndQuotedNamesAndRangesUpToTheNextKeyword)
 
 TEST(CommandReader, NeedsTheNameWhereItMayNotBeMissing)
 {
-    for (const auto& [text, outcome] : Cases{{"WiDGET INPUT=a;", "INPUT=<a>"},
-                                             {"INPUT=a;", "1:1 found \"INPUT\", expected WIDGET"},
-                                             {"\n WIDGE INPUT=a;", "2:2 found \"WIDGE\", expected WIDGET"}}) {
-        CommandText command = singleCommand(text);
-        command.nameMayBeMissing = false;
-        EXPECT_EQ(outcomeOf(command), outcome);
-    }
+    EXPECT_EQ(outcomeOf("WiDGET INPUT=a;", false), "INPUT=<a>");
+    EXPECT_EQ(outcomeOf("INPUT=a;", false), "1:1 found \"INPUT\", expected WIDGET");
+    EXPECT_EQ(outcomeOf("\n WIDGE INPUT=a;", false), "2:2 found \"WIDGE\", expected WIDGET");
 }
 
 TEST(CommandReader, RefusesWhatIsGivenTwiceOrMissingOrOutOfPlaceAndNamesWhatCouldStandThere)

@@ -61,23 +61,20 @@ protected:
         bool isLiteral = false;
         int integer = 0;
         double number = 0;
-        Texts names;
         std::vector<ParamObj> qualifiers;
         const ParamDescriptor* sort = description_.getSubComDesc("SET")->getParamDesc("SORT");
         result += parameter->getUpStringGeneric(text) ? "upper " + text : "";
         result += parameter->getStringOrLiteral(text, isLiteral) ? (isLiteral ? " literal " : " keyword ") + text : "";
         result += parameter->getIntegerValue(integer) ? "integer " + std::to_string(integer) : "";
         result += parameter->getNumberValue(number) ? "number " + std::to_string(number) : "";
-        result += parameter->getStringList(names) ? "names" : "";
-        result += parameter->getStringQualList(qualifiers, *sort, nullptr)
-                      ? "BY: " + valuesOf(ParamObj::getParamObj("BY", qualifiers))
-                      : "";
-        return result;
+        const bool qualified = parameter->getStringQualList(qualifiers, *sort, nullptr);
+        return result + (qualified ? "BY: " + valuesOf(ParamObj::getParamObj("BY", qualifiers)) : "");
     }
 
-    /// The same for each parameter of the subcommand.
-    Texts valuesInSet() const
+    /// The same for each parameter of a subcommand.
+    Texts valuesInSet(const std::string& text)
     {
+        EXPECT_EQ(parse("INPUT=mini1 SET(" + text + ")"), 0);
         Texts values;
         for (const char* name : {"P3", "P4", "P7", "P9", "P0", "SORT"}) {
             values.push_back(valuesOf(command_->getSubComObj("SET")->getParamObj(name)));
@@ -114,16 +111,15 @@ protected:
 
 TEST_F(ParsedCommand, GivesEachValueThroughTheGettersOfItsKind)
 {
-    ASSERT_EQ(parse("INPUT=mini1 SET(P3=Mixed P4=\"Mixed\" P7=2.5 P9=-3 P0 SORT(BY=mean))"), 0);
-    EXPECT_EQ(valuesInSet(), (Texts{"upper MIXED keyword Mixed", "upper MIXED literal Mixed", "number 2.500000",
-                                    "integer -3", "", "BY: upper MEAN keyword mean"}));
+    EXPECT_EQ(valuesInSet("P3=Mixed P4=\"Mixed\" P7=2.5 P9=-3 P0 SORT(BY=mean)"),
+              (Texts{"upper MIXED keyword Mixed", "upper MIXED literal Mixed", "number 2.500000", "integer -3", "",
+                     "BY: upper MEAN keyword mean"}));
     EXPECT_EQ(command_->getSubComObj("SET")->getSubComExtName(), "SET");
-    ASSERT_EQ(parse("INPUT=mini1 SET(P3 P9 SORT)"), 0);
-    EXPECT_EQ(valuesInSet(), (Texts{"", "none", "none", "", "none", "BY: none"}));
+    EXPECT_EQ(valuesInSet("P3 P9 SORT"), (Texts{"", "none", "none", "", "none", "BY: none"}));
     EXPECT_EQ(command_->getSubComObj("LOCK"), nullptr);
 }
 
-TEST_F(ParsedCommand, ExpandsARangeAlikeInNamesAndVariablesUnlessAnEndIsUnknownOrItRunsBackwards)
+TEST_F(ParsedCommand, ExpandsRangesAndHasRefusedWhatIsNotThereOrNotInOrderOrNotNumeric)
 {
     EXPECT_EQ(validated("mini1 wright1:mini1 mini2:mini2"), (Texts{"2", "0", "1", "2", "3"}));
     EXPECT_EQ(names_, (Texts{"mini1", "wright1", "group", "mini1", "mini2"}));
@@ -134,10 +130,6 @@ TEST_F(ParsedCommand, ExpandsARangeAlikeInNamesAndVariablesUnlessAnEndIsUnknownO
     EXPECT_EQ(validated("mini2 mini2:wright1"),
               (Texts{"INPUT: the range mini2:wright1 runs backwards: wright1 stands before mini2 in the data"}));
     EXPECT_EQ(names_, (Texts{"mini2", "mini2", "wright1"}));
-}
-
-TEST_F(ParsedCommand, RefusesOtherSpellingsWithAHintAndTextsThatAreDeclaredScale)
-{
     EXPECT_EQ(validated("Mini2 wrigth1 mini1"),
               (Texts{"variable \"Mini2\" in INPUT does not exist; did you mean \"mini2\" or \"mini1\"?",
                      "variable \"wrigth1\" in INPUT does not exist; did you mean \"wright1\"?"}));
@@ -152,13 +144,10 @@ TEST_F(ParsedCommand, LeavesItToTheProcedureToMindTheLevel)
     ParserMessage message;
     message.NeedDepVarCont(QuvoVarName("group"), "INPUT", nullptr);
     message.NeedDepVarCont(QuvoVarName("mini2"), "INPUT", "(extra)");
-    EXPECT_EQ(
-        complaints_,
-        (Texts{
-            "variable \"group\" in INPUT is not numeric: line 3 of the data holds \"x\"; correct it, or leave the cell "
-            "empty where a value is missing",
-            "variable \"mini2\" in INPUT is ordinal; it must be scale here: if it is one, give it "
-            "\"level\": \"scale\" in the dictionary (extra)"}));
+    EXPECT_EQ(complaints_.at(0), "variable \"group\" in INPUT is not numeric: line 3 of the data holds \"x\"; correct "
+                                 "it, or leave the cell empty where a value is missing");
+    EXPECT_EQ(complaints_.at(1), "variable \"mini2\" in INPUT is ordinal; it must be scale here: if it is one, give it "
+                                 "\"level\": \"scale\" in the dictionary (extra)");
 }
 
 TEST_F(ParsedCommand, TellsWhereAndWhyACommandIsRefused)
