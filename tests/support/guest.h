@@ -6,6 +6,7 @@
 #include "host/procedure.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <memory>
 #include <optional>
 #include <string>
@@ -33,6 +34,8 @@ struct Guest {
     {
         table->set_dimensions(&*dimension);
         table->set_cells(&*body);
+        validSpecs->AddVariable(1, false, true, true, true);
+        iterator.emplace(*adapter, true);
     }
 
     std::unique_ptr<Cell> cell() { return std::make_unique<Cell>(&*table, CellTypeStandard); }
@@ -76,19 +79,12 @@ struct Guest {
 
     Chart& addChart()
     {
-        chart.setDataVector(numbers, false);
-        chart.addToDataVector(numbers, "numbers");
-        chart.addToDataVector(texts, "texts");
         chart.addGPLGraphToProcedureJSON();
         return chart;
     }
 
     Guest& readRecord()
     {
-        if (!iterator) {
-            validSpecs->AddVariable(1, false, true, true, true);
-            iterator.emplace(*adapter, true);
-        }
         previous = std::exchange(record, iterator->Next());
         return *this;
     }
