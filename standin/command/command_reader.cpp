@@ -55,7 +55,7 @@ public:
         leading_ = unnamed == description.subcommands.end() ? SubcommandDescription{} : *unnamed;
     }
 
-    ParsedCommand read()
+    ParsedCommand parse()
     {
         parseName();
         ParsedCommand command;
@@ -185,7 +185,7 @@ private:
 
 ParsedCommand parseCommand(const CommandText& text, const CommandDescription& description)
 {
-    return CommandReader(text, description).read();
+    return CommandReader(text, description).parse();
 }
 
 }  // namespace standin

@@ -1,9 +1,10 @@
-// A parser's view of the tokens of a command: where it stands, and what to say when it cannot go on.
+// Goes over the tokens of a command, and says what is wrong where it cannot go on.
 #pragma once
 
 #include "standin/command/command_text.h"
 #include "standin/command/tokens.h"
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>

@@ -7,7 +7,9 @@
 #include <charconv>
 #include <limits>
 #include <locale>
+#include <optional>
 #include <sstream>
+#include <string_view>
 #include <system_error>
 
 namespace standin {

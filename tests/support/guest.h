@@ -6,6 +6,7 @@
 #include "host/procedure.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <memory>
 #include <optional>
 #include <string>
@@ -14,13 +15,15 @@
 
 namespace tests {
 
+/// Its one statement is its name, for which it calls the host back.
 class Chart : public StatGPLGraph {
 public:
     using StatGPLGraph::StatGPLGraph;
 
     void writeGPL(rapidjson::Value& graph, rapidjson::MemoryPoolAllocator<rapidjson::CrtAllocator>& allocator) override
     {
-        graph.AddMember("gpl", rapidjson::Value(rapidjson::kArrayType), allocator);
+        rapidjson::Value statements(rapidjson::kArrayType);
+        graph.AddMember("gpl", statements.PushBack(rapidjson::Value(getName(), allocator), allocator), allocator);
     }
 };
 
@@ -31,6 +34,8 @@ struct Guest {
     {
         table->set_dimensions(&*dimension);
         table->set_cells(&*body);
+        validSpecs->AddVariable(1, false, true, true, true);
+        iterator.emplace(*adapter, true);
     }
 
     std::unique_ptr<Cell> cell() { return std::make_unique<Cell>(&*table, CellType{1}); }
@@ -74,19 +79,12 @@ struct Guest {
 
     Chart& addChart()
     {
-        chart.setDataVector(numbers, false);
-        chart.addToDataVector(numbers, "numbers");
-        chart.addToDataVector(texts, "texts");
         chart.addGPLGraphToProcedureJSON();
         return chart;
     }
 
     Guest& readRecord()
     {
-        if (!iterator) {
-            validSpecs->AddVariable(1, false, true, true, true);
-            iterator.emplace(*adapter, true);
-        }
         previous = std::exchange(record, iterator->Next());
         return *this;
     }

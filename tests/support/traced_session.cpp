@@ -26,28 +26,19 @@ std::vector<std::string> cellsOf(const std::string& line)
     return cells;
 }
 
-void addText(standin::Variable& variable, const std::string& text, std::size_t line)
-{
-    if (!variable.firstText) {
-        variable.level = standin::levels::nominal;
-        variable.firstText = {line, text};
-    }
-    auto& labels = variable.valueLabels;
-    auto label = std::ranges::find(labels, text, [](const auto& known) { return known.second; });
-    if (label == labels.end()) {
-        label = labels.emplace(labels.size() + 1, text).first;
-    }
-    variable.values.push_back(label->first);
-}
-
 void addCell(standin::Variable& variable, const std::string& cell, std::size_t line)
 {
     const auto number = text::readNumber(cell);
     if (number || cell.empty() || cell == "." || cell == "NA") {
         variable.values.push_back(number.value_or(systemMissingValue));
-    } else {
-        addText(variable, cell, line);
+        return;
     }
+    variable.level = standin::levels::nominal;
+    variable.firstText = variable.firstText.value_or(standin::FirstText{line, cell});
+    auto& labels = variable.valueLabels;
+    const auto known = std::ranges::find(labels, cell, [](const auto& label) { return label.second; });
+    variable.values.push_back(known == labels.end() ? labels.emplace(labels.size() + 1, cell).first->first
+                                                    : known->first);
 }
 
 standin::DataSet dataSetOf(const std::string& data)
@@ -59,12 +50,11 @@ standin::DataSet dataSetOf(const std::string& data)
     for (const std::string& name : cellsOf(line)) {
         dataSet.variables.emplace_back().name = name;
     }
-    for (std::size_t number = 2; std::getline(lines, line, ';'); ++number) {
+    for (; std::getline(lines, line, ';'); ++dataSet.caseCount) {
         const std::vector<std::string> cells = cellsOf(line);
-        for (std::size_t i = 0; i < dataSet.variables.size() && !line.empty(); ++i) {
-            addCell(dataSet.variables[i], cells.at(i), number);
+        for (std::size_t i = 0; i < dataSet.variables.size(); ++i) {
+            addCell(dataSet.variables[i], cells.at(i), dataSet.caseCount + 2);
         }
-        dataSet.caseCount += line.empty() ? 0U : 1U;
     }
     return dataSet;
 }

@@ -19,8 +19,7 @@ class TracedSession {
 public:
     /// @param data  lines that end in semicolons: the names of the variables, then a line for each case. A cell in
     ///              double quotes may hold commas, and double quotes doubled. "", "." and "NA" are missing; another
-    ///              cell that is no number makes its variable nominal, its texts coded 1, 2, ... as they appear. Empty
-    ///              lines count as lines alone.
+    ///              cell that is no number makes its variable nominal, its texts coded 1, 2, ... as they appear.
     explicit TracedSession(const std::string& data = "a");
 
     /// The calls since the last time that this was asked.

@@ -15,19 +15,19 @@ struct StatJSONGenerator::Data {
     void append(rapidjson::Value& object);
 };
 
-/// What a group of header cells has beyond a cell.
-struct GroupData {
-    std::optional<std::string> label;
-    bool showLabel = true;
-    std::vector<Cell*> children;  ///< owned
-};
-
 /// Of a cell or of a group.
 struct Cell::Data {
+    /// What a group of header cells has beyond a cell.
+    struct Group {
+        std::optional<std::string> label;
+        bool showLabel = true;
+        std::vector<Cell*> children;  ///< owned
+    };
+
     StatJSONGenerator::Data* document;
     bool added = false;  ///< some host object owns it
     std::variant<std::monostate, double, std::string> value;
-    std::optional<GroupData> group;
+    std::optional<Group> group;
 
     bool isGroup() const { return group.has_value(); }
 };

@@ -115,7 +115,7 @@ void Cell::setValue(std::string text)
 Descendants::Descendants(Table* table)
 {
     HostCall call(HostCall::Constructor{}, "Descendants::Descendants", table);
-    data = std::make_unique<Data>(Data{documentOf(call, table), false, {}, GroupData{}});
+    data = std::make_unique<Data>(Data{documentOf(call, table), false, {}, Data::Group{}});
     call.creates(this);
 }
 

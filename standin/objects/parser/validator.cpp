@@ -6,6 +6,7 @@
 #include "standin/objects/parser/complaints.h"
 #include "standin/session/session.h"
 #include "text/near_misses.h"
+#include "text/wording.h"
 
 #include <optional>
 #include <string>

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <sstream>
 #include <string>
 #include <utility>
@@ -10,25 +11,15 @@
 namespace standin {
 namespace {
 
-using namespace UPSpecTypes;
+using UPSpecTypes::ParamSpec;
 
 /// What goes in and what must come out.
 using Cases = std::vector<std::pair<std::string, std::string>>;
 
-ParameterDescription parameter(const std::string& name, ParamSpec kind, const std::vector<std::string>& values = {})
+ParameterDescription parameter(const std::string& name, ParamSpec kind, const std::vector<std::string>& values = {},
+                               std::optional<double> lower = {}, std::optional<double> upper = {})
 {
-    ParameterDescription description;
-    description.name = name;
-    description.kind = kind;
-    description.values = values;
-    return description;
-}
-
-ParameterDescription bounded(ParameterDescription description, double lower, double upper)
-{
-    description.lowerBound = lower;
-    description.upperBound = upper;
-    return description;
+    return {name, kind, false, brackets::none, true, {}, lower, upper, values, {}};
 }
 
 /// A procedure of nobody's, with a parameter of every kind.
@@ -40,8 +31,8 @@ CommandDescription widget()
     ParameterDescription tint = parameter("TINT", kinds::keyword, {"Red", "BLUE"});
     tint.valueRequired = false;
     ParameterDescription sort = parameter("SORT", kinds::qualifierList);
-    sort.qualifiers = {parameter("BY", kinds::keyword, {"MEAN", "RATIO"}),
-                       bounded(parameter("DEPTH", kinds::integer), 1, 9), parameter("TWICE", kinds::bareKeyword)};
+    sort.qualifiers = {parameter("BY", kinds::keyword, {"MEAN", "RATIO"}), parameter("DEPTH", kinds::integer, {}, 1, 9),
+                       parameter("TWICE", kinds::bareKeyword)};
     ParameterDescription key = parameter("KEY", kinds::integer);
     key.required = true;
     return {
@@ -49,7 +40,7 @@ CommandDescription widget()
         {{"", {input, parameter("EXTRA", kinds::variableList), parameter("MODE", kinds::keyword, {"Fast", "slow"})}},
          {"SET",
           {tint, parameter("LIMIT", kinds::keywordOrLiteral, {"TwoSd", "95"}),
-           parameter("NOTE", kinds::keywordOrLiteral), bounded(parameter("LEVEL", kinds::number), 0, 100),
+           parameter("NOTE", kinds::keywordOrLiteral), parameter("LEVEL", kinds::number, {}, 0, 100),
            parameter("COUNT", kinds::integer), parameter("FLAG", kinds::bareKeyword), sort}},
          {"LOCK", {key, parameter("LIST", kinds::variableList)}}}};
 }
@@ -80,32 +71,34 @@ std::string shown(const std::vector<ParsedParameter>& parameters)
 
 std::string shown(const ParsedCommand& command)
 {
-    std::string text = shown(command.subcommands.at(0).parameters);
-    for (std::size_t i = 1; i < command.subcommands.size(); ++i) {
-        text += " " + command.subcommands[i].name + "{" + shown(command.subcommands[i].parameters) + "}";
+    std::string text;
+    for (const auto& [name, parameters] : command.subcommands) {
+        text += name.empty() ? shown(parameters) : " " + name + "{" + shown(parameters) + "}";
     }
     return text;
 }
 
 /// The parsed command, or place and reason of its refusal.
-std::string outcomeOf(const CommandText& command, const CommandDescription& description = widget())
+std::string outcomeOf(const std::string& text, bool nameMayBeMissing = true)
 {
+    CommandText command = singleCommand(text);
+    command.nameMayBeMissing = nameMayBeMissing;
     try {
-        return shown(parseCommand(command, description));
+        return shown(parseCommand(command, widget()));
     } catch (const CommandError& error) {
-        const TextPlace place = placeOf(*command.text, error.offset());
-        return std::to_string(place.line) + ":" + std::to_string(place.column) + " " + error.what();
+        const auto [line, column] = placeOf(text, error.offset());
+        return std::to_string(line) + ":" + std::to_string(column) + " " + error.what();
     }
 }
 
 void expectOutcomes(const Cases& cases, const std::string& before = "", const std::string& after = "")
 {
     for (const auto& [text, outcome] : cases) {
-        EXPECT_EQ(outcomeOf(singleCommand(before + text + after)), outcome) << before << text << after;
+        EXPECT_EQ(outcomeOf(before + text + after), outcome) << before << text << after;
     }
 }
 
-TEST(CommandParser, DeliversParametersOfEveryKindInTheOrderGiven)
+TEST(CommandReader, DeliversParametersInTheOrderGivenAndKeywordsInTheAllowedSpelling)
 {
     expectOutcomes({
         {"WIDGET MODE=slow INPUT=a;", "MODE=slow INPUT=<a>"},
@@ -115,63 +108,45 @@ TEST(CommandParser, DeliversParametersOfEveryKindInTheOrderGiven)
         {"INPUT=a SET(SORT(DEPTH=2 BY=RATIO) FLAG)", "INPUT=<a> SET{SORT(DEPTH=integer 2 BY=RATIO) FLAG}"},
         {"INPUT=a SET(SORT FLAG)", "INPUT=<a> SET{SORT() FLAG}"},
         {"INPUT=a SET(TINT FLAG)", "INPUT=<a> SET{TINT FLAG}"},
-    });
-}
-
-TEST(CommandParser, TakesKeywordsInAnyCaseAndDeliversTheAllowedSpelling)
-{
-    expectOutcomes({
+        {"#;\n\tINPUT = a # \"b\r\n c# SET(\r d\n SET ( FLAG)#", "INPUT=<a><c><d> SET{FLAG}"},
         {"widget Input=A mOdE=FAST Set(tint=blue)", "INPUT=<A> MODE=Fast SET{TINT=BLUE}"},
         {"INPUT=a set(limit=TWOSD Sort(by=mean))", "INPUT=<a> SET{LIMIT=TwoSd SORT(BY=MEAN)}"},
         {"INPUT=a set(note=AnyWord-7%)", "INPUT=<a> SET{NOTE=AnyWord-7%}"},
     });
 }
 
-TEST(CommandParser, TakesAQuotedValueOnlyWhereALiteralMayStand)
+TEST(CommandReader, TakesTheValuesOfAKindAndRefusesOthers)
 {
+    const std::string wholeNumber = ", expected a whole number for COUNT, from -2147483648 to 2147483647";
     expectOutcomes(
         {
+            // Quotes, only where a literal may stand.
             {"LIMIT=\"twosd\"", "INPUT=<a> SET{LIMIT=literal TwoSd}"},
             {R"(NOTE="say ""no""; # (=")", R"(INPUT=<a> SET{NOTE=literal say "no"; # (=})"},
             {"LIMIT=\"96\"", "1:19 found the quoted text \"96\", expected one of 95, TwoSd"},
             {"TINT=\"Red\"", "1:18 found the quoted text \"Red\", expected one of Red, BLUE"},
             {"\"FLAG\"",
              "1:13 found the quoted text \"FLAG\", expected one of FLAG, TINT, LIMIT, NOTE, LEVEL, COUNT, SORT, )"},
-        },
-        "INPUT=a SET(", ")");
-}
-
-TEST(CommandParser, TakesNumbersUpToTheirBounds)
-{
-    expectOutcomes(
-        {
+            // Numbers, up to their bounds.
             {"LEVEL=0 SORT(DEPTH=9)", "INPUT=<a> SET{LEVEL=number 0 SORT(DEPTH=integer 9)}"},
             {"LEVEL=100", "INPUT=<a> SET{LEVEL=number 100}"},
             {"LEVEL=-0.001", "1:19 found \"-0.001\", expected a number not below 0"},
             {"LEVEL=100.00001", "1:19 found \"100.00001\", expected a number not above 100"},
             {"LEVEL=nan", "1:19 found \"nan\", expected a number for LEVEL"},
             {"SORT(DEPTH=10)", "1:24 found \"10\", expected a number not above 9"},
+            // Whole numbers, of 32 bits.
+            {"COUNT=2147483647", "INPUT=<a> SET{COUNT=integer 2147483647}"},
+            {"COUNT=-2147483648", "INPUT=<a> SET{COUNT=integer -2147483648}"},
+            {"COUNT=+05", "INPUT=<a> SET{COUNT=integer 5}"},
+            {"COUNT=2147483648", "1:19 found \"2147483648\"" + wholeNumber},
+            {"COUNT=-2147483649", "1:19 found \"-2147483649\"" + wholeNumber},
+            {"COUNT=5.0", "1:19 found \"5.0\"" + wholeNumber},
+            {"COUNT=", "1:19 found \")\"" + wholeNumber},
         },
         "INPUT=a SET(", ")");
 }
 
-TEST(CommandParser, TakesWholeNumbersOf32Bits)
-{
-    const std::string expected = ", expected a whole number for COUNT, from -2147483648 to 2147483647";
-    expectOutcomes(
-        {
-            {"2147483647", "INPUT=<a> SET{COUNT=integer 2147483647}"},
-            {"-2147483648", "INPUT=<a> SET{COUNT=integer -2147483648}"},
-            {"+05", "INPUT=<a> SET{COUNT=integer 5}"},
-            {"2147483648", "1:19 found \"2147483648\"" + expected},
-            {"-2147483649", "1:19 found \"-2147483649\"" + expected},
-            {"5.0", "1:19 found \"5.0\"" + expected},
-            {"", "1:19 found \")\"" + expected},
-        },
-        "INPUT=a SET(COUNT=", ")");
-}
-
-TEST(CommandParser, TakesBareAndQuotedNamesAndRangesOfThem)
+TEST(CommandReader, TakesBareAndQuotedNamesAndRangesUpToTheNextKeyword)
 {
     const std::string bareNames =
         ", expected a name of letters, digits and _ . $ @; any other name goes in double quotes";
@@ -185,12 +160,6 @@ TEST(CommandParser, TakesBareAndQuotedNamesAndRangesOfThem)
         {"INPUT=体重→", "1:7 found \"体重→\"" + bareNames},
         {"INPUT=a \"b", "1:9 the quote that begins here is not closed"},
         {"INPUT=a b\xFF", "1:10 a byte here is not UTF-8"},
-    });
-}
-
-TEST(CommandParser, EndsAListBeforeTheNextKeyword)
-{
-    expectOutcomes({
         {"INPUT=a b EXTRA=c d", "INPUT=<a><b> EXTRA=<c><d>"},
         {"INPUT=a SET b SET()", "INPUT=<a><SET><b> SET{}"},
         {"INPUT=mode MODE =slow", "INPUT=<mode> MODE=slow"},
@@ -202,58 +171,34 @@ TEST(CommandParser, EndsAListBeforeTheNextKeyword)
     });
 }
 
-TEST(CommandParser, SkipsBlanksAndComments)
+TEST(CommandReader, NeedsTheNameWhereItMayNotBeMissing)
 {
-    EXPECT_EQ(outcomeOf(singleCommand("#;\n\tINPUT = a # \"b\r\n c# SET(\r d\n SET ( FLAG)#")),
-              "INPUT=<a><c><d> SET{FLAG}");
+    EXPECT_EQ(outcomeOf("WiDGET INPUT=a;", false), "INPUT=<a>");
+    EXPECT_EQ(outcomeOf("INPUT=a;", false), "1:1 found \"INPUT\", expected WIDGET");
+    EXPECT_EQ(outcomeOf("\n WIDGE INPUT=a;", false), "2:2 found \"WIDGE\", expected WIDGET");
 }
 
-TEST(CommandParser, NeedsTheNameWhereItMayNotBeMissing)
+TEST(CommandReader, RefusesWhatIsGivenTwiceOrMissingOrOutOfPlaceAndNamesWhatCouldStandThere)
 {
-    const auto outcome = [](const std::string& text) {
-        CommandText command = singleCommand(text);
-        command.nameMayBeMissing = false;
-        return outcomeOf(command);
-    };
-    EXPECT_EQ(outcome("WiDGET INPUT=a;"), "INPUT=<a>");
-    EXPECT_EQ(outcome("INPUT=a;"), "1:1 found \"INPUT\", expected WIDGET");
-    EXPECT_EQ(outcome("\n WIDGE INPUT=a;"), "2:2 found \"WIDGE\", expected WIDGET");
-}
-
-TEST(CommandParser, RefusesWhatIsGivenTwice)
-{
+    const std::string choice = ", expected one of ";
     expectOutcomes({
         {"INPUT=a MODE=slow input=b", "1:19 found \"input\", but INPUT is given already"},
         {"INPUT=a SET(FLAG) Set(COUNT=1)", "1:19 found \"Set\", but SET is given already"},
         {"INPUT=a SET(FLAG COUNT=1 flag)", "1:26 found \"flag\", but FLAG is given already"},
         {"INPUT=a SET(SORT(BY=MEAN by=MEAN))", "1:26 found \"by\", but BY is given already"},
-    });
-}
-
-TEST(CommandParser, RefusesACommandWithoutARequiredParameter)
-{
-    expectOutcomes({
         {"", "1:1 found the end of the command, but INPUT is missing before it"},
         {"WIDGET MODE=slow;", "1:17 found \";\", but INPUT is missing before it"},
         {"SET() INPUT=a", "1:1 found \"SET\", but INPUT is missing before it"},
         {"INPUT=a LOCK(LIST=b)", "1:20 found \")\", but KEY is missing before it"},
-    });
-}
-
-TEST(CommandParser, NamesWhatCouldStandInThePlace)
-{
-    const std::string leading = ", expected one of ";
-    expectOutcomes({
-        {"INPTU=a", "1:1 found \"INPTU\"" + leading + "INPUT, EXTRA, MODE, SET, LOCK"},
+        {"INPTU=a", "1:1 found \"INPTU\"" + choice + "INPUT, EXTRA, MODE, SET, LOCK"},
         {"INPUT=a SET() lok()", "1:15 found \"lok\", expected LOCK"},
         {"INPUT=a SET() EXTRA=b", "1:15 found \"EXTRA\", which must stand before the subcommands"},
-        {"INPUT=a SET(\n  CONT=1)", "2:3 found \"CONT\"" + leading + "COUNT, TINT, LIMIT, NOTE, LEVEL, FLAG, SORT, )"},
+        {"INPUT=a SET(\n  CONT=1)", "2:3 found \"CONT\"" + choice + "COUNT, TINT, LIMIT, NOTE, LEVEL, FLAG, SORT, )"},
         {"INPUT=a SET(SORT=MEAN)", "1:17 found \"=\", expected qualifiers in parentheses after SORT"},
         {"INPUT=a SET(FLAG=TRUE)", "1:17 found \"=\", but FLAG stands alone"},
         {"INPUT=a SET(COUNT FLAG)", R"(1:19 found "FLAG", expected "=" and a value after COUNT)"},
-        {"INPUT=a SET(FLAG",
-         "1:17 found the end of the command" + leading + "TINT, LIMIT, NOTE, LEVEL, COUNT, SORT, )"},
-        {"INPUT=größe MODE=slo", "1:18 found \"slo\"" + leading + "slow, Fast"},
+        {"INPUT=a SET(FLAG", "1:17 found the end of the command" + choice + "TINT, LIMIT, NOTE, LEVEL, COUNT, SORT, )"},
+        {"INPUT=größe MODE=slo", "1:18 found \"slo\"" + choice + "slow, Fast"},
         {"INPUT=a; SET()", "1:10 found \"SET\", expected nothing after the closing semicolon"},
     });
 }

@@ -8,13 +8,15 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace standin {
 namespace {
 
-using namespace UPSpecTypes;
+using UPSpecTypes::ParamSpec;
 using Texts = std::vector<std::string>;
 
 class ParsedCommand : public testing::Test {
@@ -23,12 +25,12 @@ protected:
     {
         host_.session.dataSet.variables[3].level = levels::ordinal;
         host_.session.dataSet.variables[4].level = levels::scale;
-        SubComDescriptor leading("", SubComSpec{1}, false, false);
+        SubComDescriptor leading("", UPSpecTypes::SubComSpec{1}, false, false);
         ParamDescriptor variables("INPUT", kinds::variableList, true, true, brackets::aroundVariables);
         variables.setParamRequired(false);
         leading.addParamDesc(variables);
         description_.addSubComDesc(leading);
-        SubComDescriptor set("SET", SubComSpec{2}, false, false);
+        SubComDescriptor set("SET", UPSpecTypes::SubComSpec{2}, false, false);
         for (const ParamSpec kind :
              {kinds::keyword, kinds::keywordOrLiteral, kinds::number, kinds::integer, kinds::bareKeyword}) {
             ParamDescriptor parameter("P" + std::to_string(kind), kind, false, true, brackets::none);
@@ -45,8 +47,9 @@ protected:
     int parse(const std::string& text)
     {
         host_.session.command = singleCommand(text);
+        command_.emplace();
         QUVO_TokenSequence tokens(true);
-        return UniversalParser(tokens, command_, description_).getCommandSpecifications();
+        return UniversalParser(tokens, *command_, description_).getCommandSpecifications();
     }
 
     /// What each getter that has a value for a parameter gives.
@@ -60,130 +63,100 @@ protected:
         bool isLiteral = false;
         int integer = 0;
         double number = 0;
-        Texts names;
         std::vector<ParamObj> qualifiers;
         const ParamDescriptor* sort = description_.getSubComDesc("SET")->getParamDesc("SORT");
         result += parameter->getUpStringGeneric(text) ? "upper " + text : "";
         result += parameter->getStringOrLiteral(text, isLiteral) ? (isLiteral ? " literal " : " keyword ") + text : "";
         result += parameter->getIntegerValue(integer) ? "integer " + std::to_string(integer) : "";
         result += parameter->getNumberValue(number) ? "number " + std::to_string(number) : "";
-        result += parameter->getStringList(names) ? "names" : "";
-        result += parameter->getStringQualList(qualifiers, *sort, nullptr)
-                      ? "BY: " + valuesOf(ParamObj::getParamObj("BY", qualifiers))
-                      : "";
-        return result;
+        const bool qualified = parameter->getStringQualList(qualifiers, *sort, nullptr);
+        return result + (qualified ? "BY: " + valuesOf(ParamObj::getParamObj("BY", qualifiers)) : "");
     }
 
-    std::string valuesOf(const std::string& name) const
+    /// The same for each parameter of a subcommand.
+    Texts valuesInSet(const std::string& text)
     {
-        return valuesOf(command_.getSubComObj("SET")->getParamObj(name));
+        EXPECT_EQ(parse("INPUT=mini1 SET(" + text + ")"), 0);
+        Texts values;
+        for (const char* name : {"P3", "P4", "P7", "P9", "P0", "SORT"}) {
+            values.push_back(valuesOf(command_->getSubComObj("SET")->getParamObj(name)));
+        }
+        return values;
     }
 
-    /// Parses a list of variables and has it validated.
-    bool validate(const std::string& list)
+    /// Has a list of variables parsed and validated: what the host complains of, else the positions.
+    Texts validated(const std::string& list)
     {
         EXPECT_EQ(parse("INPUT=" + list), 0);
-        const ParamObj* input = command_.getSubComObj("")->getParamObj("INPUT");
+        const ParamObj* input = command_->getSubComObj("")->getParamObj("INPUT");
         std::vector<QuvoVarName> variables{QuvoVarName("left over")};
         EXPECT_TRUE(input->getStringList(names_) && input->getVarList(variables));
         EXPECT_EQ(names_.size(), variables.size());
         VarSpecObj validator("INPUT", "", description_, &source_, true);
-        const bool valid = validator.ValidateVariables(variables, RepeatVarOptions{0});
-        positions_ = validator.GetValidVarList();
-        return valid;
+        Texts outcome;
+        if (validator.ValidateVariables(variables, UPSpecTypes::RepeatVarOptions{0})) {
+            for (const int position : validator.GetValidVarList()) {
+                outcome.push_back(std::to_string(position));
+            }
+        }
+        EXPECT_NE(outcome.empty(), complaints_.empty());
+        return outcome.empty() ? std::exchange(complaints_, {}) : outcome;
     }
 
-    tests::TracedSession host_{"wright1,group,mini1,mini2,noted;1,1,2,3,4;;5,x,6,7,NA;8,y,9,1,n/a"};
-    const Texts& complaints_ = host_.session.complaints;
+    tests::TracedSession host_{"wright1,group,mini1,mini2,noted;1,1,2,3,4;5,x,6,7,NA;8,y,9,1,n/a"};
+    Texts& complaints_ = host_.session.complaints;
     ProcedureDataSource source_;
     CommandDescriptor description_{"WIDGET"};
-    CommandSpec command_;
+    std::optional<CommandSpec> command_;
     Texts names_{"left over"};
-    std::vector<int> positions_;
 };
 
 TEST_F(ParsedCommand, GivesEachValueThroughTheGettersOfItsKind)
 {
-    ASSERT_EQ(parse("INPUT=mini1 SET(P3=Mixed P4=\"Mixed\" P7=2.5 P9=-3 P0 SORT(BY=mean))"), 0);
-    EXPECT_EQ(valuesOf("P3"), "upper MIXED keyword Mixed");
-    EXPECT_EQ(valuesOf("P4"), "upper MIXED literal Mixed");
-    EXPECT_EQ(valuesOf("P7"), "number 2.500000");
-    EXPECT_EQ(valuesOf("P9"), "integer -3");
-    EXPECT_EQ(valuesOf("P0"), "");
-    EXPECT_EQ(valuesOf("SORT"), "BY: upper MEAN keyword mean");
-    EXPECT_EQ(command_.getSubComObj("SET")->getSubComExtName(), "SET");
+    EXPECT_EQ(valuesInSet("P3=Mixed P4=\"Mixed\" P7=2.5 P9=-3 P0 SORT(BY=mean)"),
+              (Texts{"upper MIXED keyword Mixed", "upper MIXED literal Mixed", "number 2.500000", "integer -3", "",
+                     "BY: upper MEAN keyword mean"}));
+    EXPECT_EQ(command_->getSubComObj("SET")->getSubComExtName(), "SET");
+    EXPECT_EQ(valuesInSet("P3 P9 SORT"), (Texts{"", "none", "none", "", "none", "BY: none"}));
+    EXPECT_EQ(command_->getSubComObj("LOCK"), nullptr);
 }
 
-TEST_F(ParsedCommand, GivesNothingForWhatStandsAloneOrNotAtAll)
+TEST_F(ParsedCommand, ExpandsRangesAndHasRefusedWhatIsNotThereOrNotInOrderOrNotNumeric)
 {
-    ASSERT_EQ(parse("INPUT=mini1 SET(P3 P9 SORT)"), 0);
-    EXPECT_EQ(valuesOf("P3"), "");
-    EXPECT_EQ(valuesOf("P9"), "");
-    EXPECT_EQ(valuesOf("SORT"), "BY: none");
-    EXPECT_EQ(valuesOf("P4"), "none");
-    EXPECT_EQ(command_.getSubComObj("LOCK"), nullptr);
-}
-
-TEST_F(ParsedCommand, ExpandsARangeAlikeInNamesAndVariables)
-{
-    EXPECT_TRUE(validate("mini1 wright1:mini1 mini2:mini2"));
+    EXPECT_EQ(validated("mini1 wright1:mini1 mini2:mini2"), (Texts{"2", "0", "1", "2", "3"}));
     EXPECT_EQ(names_, (Texts{"mini1", "wright1", "group", "mini1", "mini2"}));
-    EXPECT_EQ(positions_, (std::vector{2, 0, 1, 2, 3}));
-    EXPECT_EQ(complaints_, Texts());
-}
-
-TEST_F(ParsedCommand, LeavesARangeWithAnUnknownEndToTheValidator)
-{
-    EXPECT_FALSE(validate("wright1:mini3 last:first"));
-    EXPECT_EQ(names_, (Texts{"wright1", "mini3", "last", "first"}));
-    EXPECT_EQ(complaints_,
+    EXPECT_EQ(validated("wright1:mini3 last:first"),
               (Texts{"variable \"mini3\" in INPUT does not exist; did you mean \"mini1\" or \"mini2\"?",
                      "variable \"last\" in INPUT does not exist", "variable \"first\" in INPUT does not exist"}));
-}
-
-TEST_F(ParsedCommand, HasARangeThatRunsBackwardsRefusedWithItsReason)
-{
-    EXPECT_FALSE(validate("mini2 mini2:wright1"));
+    EXPECT_EQ(names_, (Texts{"wright1", "mini3", "last", "first"}));
+    EXPECT_EQ(validated("mini2 mini2:wright1"),
+              (Texts{"INPUT: the range mini2:wright1 runs backwards: wright1 stands before mini2 in the data"}));
     EXPECT_EQ(names_, (Texts{"mini2", "mini2", "wright1"}));
-    EXPECT_EQ(complaints_, (Texts{"INPUT: the range mini2:wright1 runs backwards: wright1 stands before mini2 "
-                                  "in the data"}));
-}
-
-TEST_F(ParsedCommand, MatchesNamesByteForByteButHintsAtOtherSpellings)
-{
-    EXPECT_FALSE(validate("Mini2 wrigth1 mini1"));
-    EXPECT_EQ(complaints_, (Texts{"variable \"Mini2\" in INPUT does not exist; did you mean \"mini2\" or \"mini1\"?",
-                                  "variable \"wrigth1\" in INPUT does not exist; did you mean \"wright1\"?"}));
+    EXPECT_EQ(validated("Mini2 wrigth1 mini1"),
+              (Texts{"variable \"Mini2\" in INPUT does not exist; did you mean \"mini2\" or \"mini1\"?",
+                     "variable \"wrigth1\" in INPUT does not exist; did you mean \"wright1\"?"}));
+    EXPECT_EQ(validated("noted"),
+              (Texts{"variable \"noted\" in INPUT is declared scale, but line 4 of the data holds \"n/a\"; "
+                     "correct it, or leave the cell empty where a value is missing"}));
 }
 
 TEST_F(ParsedCommand, LeavesItToTheProcedureToMindTheLevel)
 {
-    EXPECT_TRUE(validate("group"));
+    EXPECT_EQ(validated("group"), Texts{"1"});
     ParserMessage message;
     message.NeedDepVarCont(QuvoVarName("group"), "INPUT", nullptr);
     message.NeedDepVarCont(QuvoVarName("mini2"), "INPUT", "(extra)");
-    EXPECT_EQ(
-        complaints_,
-        (Texts{
-            "variable \"group\" in INPUT is not numeric: line 4 of the data holds \"x\"; correct it, or leave the cell "
-            "empty where a value is missing",
-            "variable \"mini2\" in INPUT is ordinal; it must be scale here: if it is one, give it "
-            "\"level\": \"scale\" in the dictionary (extra)"}));
-}
-
-TEST_F(ParsedCommand, HasATextColumnThatIsDeclaredScaleRefused)
-{
-    EXPECT_FALSE(validate("noted"));
-    EXPECT_EQ(complaints_,
-              (Texts{"variable \"noted\" in INPUT is declared scale, but line 5 of the data holds \"n/a\"; "
-                     "correct it, or leave the cell empty where a value is missing"}));
+    EXPECT_EQ(complaints_.at(0), "variable \"group\" in INPUT is not numeric: line 3 of the data holds \"x\"; correct "
+                                 "it, or leave the cell empty where a value is missing");
+    EXPECT_EQ(complaints_.at(1), "variable \"mini2\" in INPUT is ordinal; it must be scale here: if it is one, give it "
+                                 "\"level\": \"scale\" in the dictionary (extra)");
 }
 
 TEST_F(ParsedCommand, TellsWhereAndWhyACommandIsRefused)
 {
     EXPECT_NE(parse("INPUT=mini1\r\n\tSTE(P0);"), 0);
     EXPECT_EQ(complaints_, (Texts{"line 2, column 2: found \"STE\", expected SET\n    \tSTE(P0);\n    \t^"}));
-    EXPECT_EQ(command_.getSubComObj(""), nullptr);
+    EXPECT_EQ(command_->getSubComObj(""), nullptr);
     EXPECT_NE(parse("SET()"), 0);  // the later mark that INPUT is not required counts for nothing
 }
 
