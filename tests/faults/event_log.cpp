@@ -2,15 +2,25 @@
 
 #include <algorithm>
 #include <iostream>
+#include <iterator>
 #include <sstream>
 #include <stdexcept>
+#include <string_view>
 
 namespace tests {
 
+namespace {
+
+constexpr std::size_t room = std::size_t{1} << 22U;
+constexpr std::string_view allocation = "allocation";
+
+}  // namespace
+
 EventLog::EventLog()
-    : previousErrors_(std::cerr.rdbuf(this))
+    : text_(std::make_unique_for_overwrite<char[]>(room))
+    , previousErrors_(std::cerr.rdbuf(this))
 {
-    text_.reserve(std::size_t{1} << 22U);
+    setp(text_.get(), text_.get() + room);
 }
 
 EventLog::~EventLog()
@@ -18,34 +28,41 @@ EventLog::~EventLog()
     std::cerr.rdbuf(previousErrors_);
 }
 
-std::vector<std::string> EventLog::events() const
+void EventLog::noteAllocation()
 {
-    std::vector<std::string> events;
-    std::istringstream lines(text_);
-    for (std::string line; std::getline(lines, line);) {
+    sputn(allocation.data(), allocation.size());
+    sputc('\n');
+}
+
+Lines EventLog::events() const
+{
+    if (pptr() == epptr()) {
+        throw std::length_error("the log is full");
+    }
+    Lines events;
+    std::istringstream text(std::string(pbase(), pptr()));
+    for (std::string line; std::getline(text, line);) {
         events.push_back(line);
     }
     return events;
 }
 
-EventLog::int_type EventLog::overflow(int_type character)
+bool isCall(const std::string& event)
 {
-    if (!traits_type::eq_int_type(character, traits_type::eof())) {
-        const char one = traits_type::to_char_type(character);
-        xsputn(&one, 1);
-    }
-    return traits_type::not_eof(character);
+    return event.find('\t') != std::string::npos;
 }
 
-std::streamsize EventLog::xsputn(const char* text, std::streamsize size)
+bool isAllocation(const std::string& event)
 {
-    const std::string_view added(text, static_cast<std::size_t>(size));
-    if (text_.size() + added.size() > text_.capacity()) {
-        throw std::length_error("the log is full");
-    }
-    text_ += added;
-    eventCount_ += static_cast<std::size_t>(std::ranges::count(added, '\n'));
-    return size;
+    return event == allocation;
+}
+
+Lines linesAmong(const Lines& events, std::size_t count)
+{
+    Lines lines;
+    std::copy_if(events.begin(), events.begin() + static_cast<std::ptrdiff_t>(count), std::back_inserter(lines),
+                 [](const auto& event) { return !isCall(event) && !isAllocation(event); });
+    return lines;
 }
 
 }  // namespace tests

@@ -1,7 +1,7 @@
-// Host calls and lines on the standard error stream, in the order in which they came.
+// What happens in a run, in the order in which it came: host calls, allocations, lines on the standard error stream.
 #pragma once
 
-#include <cstddef>
+#include <memory>
 #include <ostream>
 #include <streambuf>
 #include <string>
@@ -9,7 +9,9 @@
 
 namespace tests {
 
-/// Takes both a trace and, while it lives, the standard error stream. It has its memory beforehand, so that no
+using Lines = std::vector<std::string>;
+
+/// Takes a trace, allocations and, while it lives, the standard error stream. It has its memory beforehand, so that no
 /// allocation of its own fails in a module that runs short of it.
 class EventLog : public std::streambuf {
 public:
@@ -20,25 +22,22 @@ public:
 
     std::ostream& stream() { return stream_; }
 
-    /// One text per event: a call as in a trace, with its tab, or a line without one.
-    std::vector<std::string> events() const;
+    void noteAllocation();
 
-    std::size_t eventCount() const { return eventCount_; }
-
-protected:
-    int_type overflow(int_type character) override;
-    std::streamsize xsputn(const char* text, std::streamsize size) override;
+    /// One text per event: a call as in a trace, with its tab, "allocation", or a line.
+    Lines events() const;
 
 private:
-    std::string text_;
-    std::size_t eventCount_ = 0;
+    std::unique_ptr<char[]> text_;
     std::ostream stream_{this};
     std::streambuf* previousErrors_;
 };
 
-inline bool isCall(const std::string& event)
-{
-    return event.find('\t') != std::string::npos;
-}
+bool isCall(const std::string& event);
+
+bool isAllocation(const std::string& event);
+
+/// The lines among the first events, up to so many.
+Lines linesAmong(const Lines& events, std::size_t count);
 
 }  // namespace tests

@@ -1,44 +1,56 @@
 #include "tests/faults/expectation.h"
 
-#include "tests/faults/event_log.h"
-
 #include <algorithm>
 #include <iterator>
-#include <utility>
 
 namespace tests {
 
 namespace {
 
-using Lengths = std::vector<std::size_t>;
+/// Where one step gives way to the next: between the call with which the next begins and the call before that. Of the
+/// allocations there the first so many are still the earlier step's.
+struct Border {
+    const char* call;
+    std::size_t allocations;
+    Step next;
+};
 
-const char* const stepOne = "bldatman_entry: Step1 Unknown error occurred.";
-const char* const stepThree = "bldatman_entry: Step3 Unknown error occurred.";
-const char* const stepFive = "bldatman_entry: Step5 Unknown error occurred.";
-
-std::vector<Place> placesOf(const Lines& events)
+std::vector<Border> bordersOf(const Command& command)
 {
-    std::vector<Place> places;
-    Place place = Place::Entry;
-    bool listsToCome = false;
-    for (const std::string& event : events) {
-        const auto is = [&event](const char* start) { return event.starts_with(start); };
-        if (is("SubComDescriptor::SubComDescriptor")) {
-            place = Place::Describing;
-        } else if (is("CommandSpec::CommandSpec") || is("bldatman_entry: ") || is("BLDATMAN: ") || is("Warning: ")) {
-            place = Place::Entry;
-        } else if (is("CommandSpec::getSubComObj")) {
-            place = Place::Settings;
-            listsToCome = is("CommandSpec::getSubComObj\t[\"\"]");
-        } else if (is("ACAVarValidSpecs::ACAVarValidSpecs")) {
-            place = listsToCome ? Place::Reading : Place::Entry;  // the output makes one too
-        }
-        places.push_back(place);
-        if (place == Place::Reading && is("ACAVarValidSpecs::~")) {
-            place = Place::Settings;
-        }
+    constexpr std::size_t positionsOfVariables = 1;
+    const std::size_t columns = command.first.size() + (command.second.empty() ? command.first : command.second).size();
+    const std::size_t convertedSettings = columns + 4;  // of each list the names, the columns and what these hold
+    const char* const opensCases = "ACAVarValidSpecs::ACAVarValidSpecs";
+    const char* const closesCases = "ACAVarValidSpecs::~";
+    std::vector<Border> borders{{"SubComDescriptor::SubComDescriptor", 0, Step::Describing},
+                                {"CommandSpec::CommandSpec", 0, Step::Frame},
+                                {"CommandSpec::getSubComObj", 0, Step::Settings},
+                                {opensCases, positionsOfVariables, Step::FirstReading},
+                                {closesCases, 0, Step::Settings}};
+    if (!command.second.empty()) {
+        borders.push_back({opensCases, positionsOfVariables, Step::SecondReading});
+        borders.push_back({closesCases, 0, Step::Settings});
     }
-    return places;
+    borders.push_back({opensCases, convertedSettings, Step::Frame});  // the output makes one too
+    return borders;
+}
+
+/// A command that is refused comes to some of the borders only.
+std::vector<Step> stepsOf(const Command& command, const Lines& events)
+{
+    std::vector<Step> steps(events.size(), Step::Frame);
+    auto from = events.begin();
+    for (const Border& border : bordersOf(command)) {
+        const auto call = std::find_if(from, events.end(), [&](const auto& e) { return e.starts_with(border.call); });
+        if (call == events.end()) {
+            break;
+        }
+        const auto callBefore = std::find_if(std::make_reverse_iterator(call), events.rend(), isCall);
+        const auto begin = callBefore.base() - events.begin() + static_cast<std::ptrdiff_t>(border.allocations);
+        std::fill(steps.begin() + begin, steps.end(), border.next);
+        from = call + 1;
+    }
+    return steps;
 }
 
 Lines joined(Lines one, const Lines& other)
@@ -47,140 +59,50 @@ Lines joined(Lines one, const Lines& other)
     return one;
 }
 
-Ending refused(std::string line)
-{
-    return {{std::move(line)}, false};
-}
-
-/// Of so many cases of a pair.
-long usableCases(char a, char b, std::size_t length)
-{
-    const bool withoutOne = (a == 'c' || b == 'c') && length > caseWithoutC;
-    return static_cast<long>(length) - (withoutOne ? 1 : 0);
-}
-
 }  // namespace
 
-Expectation::Expectation(const Command& command, const Run& whole)
+Expectation::Expectation(const Command& command, const Lines& events)
     : command_(command)
-    , whole_(whole)
-    , places_(placesOf(whole.events))
+    , events_(events)
+    , steps_(stepsOf(command, events))
 {
 }
 
-Place Expectation::placeOf(std::size_t event) const
+Ending Expectation::afterFault(std::size_t event, const std::string& error) const
 {
-    return places_[std::min(event, places_.size() - 1)];
-}
-
-const std::string& Expectation::names(int list) const
-{
-    return list == 1 || command_.second.empty() ? command_.first : command_.second;
-}
-
-std::vector<Ending> Expectation::endings(Place place, std::size_t events, const std::string& error,
-                                         bool midRecord) const
-{
-    const Lines before = linesIn(0, events);
-    switch (place) {
-    case Place::Entry:
-        return {{joined(before, {"BLDATMAN: " + error}), false}};
-    case Place::Describing:
-        return {{joined(before, {"BldatmanCommandDescriber: " + error, stepOne}), false}};
-    case Place::Settings:
-        return {{joined(before, {"BldatmanInputSetting::start: " + error, stepThree}), false}};
-    case Place::Reading:
+    const Lines before = linesAmong(events_, event);
+    switch (steps_[event]) {
+    case Step::Describing:
+        return {joined(before, {"BldatmanCommandDescriber: " + error, stepOne}), false};
+    case Step::Settings:
+        return {joined(before, {"BldatmanInputSetting::start: " + error, stepThree}), false};
+    case Step::FirstReading:
+    case Step::SecondReading: {
+        const auto& endings = command_.broken.at(steps_[event] == Step::FirstReading ? 0 : 1);
+        const Ending& rest = std::prev(endings.upper_bound(valuesStored(event)))->second;
+        return {joined(joined(before, {error}), rest.lines), rest.delivered};
+    }
+    case Step::Frame:
         break;
     }
-    std::vector<Ending> endings;
-    for (const Lengths& broken : brokenLists(events, midRecord)) {
-        Ending rest = afterBrokenReading(events, broken);
-        endings.push_back({joined(joined(before, {error}), rest.lines), rest.delivered});
-    }
-    return endings;
+    return {joined(before, {"BLDATMAN: " + error}), false};
 }
 
-Ending Expectation::afterReading(const Lengths& first, const Lengths& second) const
+/// Of the list that is being read. Between two records there are as many allocations as there are columns, one for each
+/// that grows, or none; after the first record there is one more, before them, for the columns themselves.
+int Expectation::valuesStored(std::size_t event) const
 {
-    if (command_.isListwise() && !first.empty() && (second.size() < first.size() || first[0] != second[0])) {
-        return refused("BLDATMAN: Standard exception: Inner vectors must have the same size");
+    const auto begin = events_.begin() + (std::ranges::find(steps_, steps_[event]) - steps_.begin());
+    const auto fault = events_.begin() + static_cast<std::ptrdiff_t>(event);
+    const auto records =
+        std::count_if(begin, fault, [](const auto& e) { return e.starts_with("RecKit::Record::GetAll"); });
+    if (records == 0) {
+        return noColumns;
     }
-    Ending ending;
-    std::size_t pairs = 0;
-    for (std::size_t i = 0; i < first.size(); ++i) {
-        for (std::size_t j = 0; j < second.size(); ++j) {
-            if (names(1)[i] == names(2)[j] || (command_.isPaired() && i != j)) {
-                continue;
-            }
-            ++pairs;
-            const long cases = usableCases(names(1)[i], names(2)[j], std::min(first[i], second[j]));
-            if (cases <= 1) {
-                return refused("BLDATMAN: Standard exception: Error in function "
-                               "boost::math::students_t_distribution<double>::students_t_distribution: Degrees of "
-                               "freedom argument is " +
-                               std::to_string(cases - 1) + ", but must be > 0 !");
-            }
-        }
-    }
-    if (command_.isPaired() && first.size() != second.size()) {
-        ending.lines.emplace_back("Warning: Data sets have different sizes. Processed up to the smallest size.");
-    }
-    if (pairs == 0) {
-        ending.lines.emplace_back(stepFive);
-    }
-    ending.delivered = pairs > 0;
-    return ending;
-}
-
-Lines Expectation::linesIn(std::size_t from, std::size_t to) const
-{
-    Lines lines;
-    std::copy_if(whole_.events.begin() + static_cast<std::ptrdiff_t>(from),
-                 whole_.events.begin() + static_cast<std::ptrdiff_t>(to), std::back_inserter(lines),
-                 [](const auto& event) { return !isCall(event); });
-    return lines;
-}
-
-std::size_t Expectation::countBefore(std::size_t events, const char* call) const
-{
-    return static_cast<std::size_t>(std::count_if(whole_.events.begin(),
-                                                  whole_.events.begin() + static_cast<std::ptrdiff_t>(events),
-                                                  [call](const auto& event) { return event.starts_with(call); }));
-}
-
-// While a list's first object is being made, it is the next one.
-int Expectation::listAt(std::size_t events) const
-{
-    const auto begun = countBefore(events, "ACAVarValidSpecs::ACA");
-    return static_cast<int>(begun == countBefore(events, "ACAVarValidSpecs::~ACA") ? begun + 1 : begun);
-}
-
-std::vector<std::vector<std::size_t>> Expectation::brokenLists(std::size_t events, bool midRecord) const
-{
-    const std::size_t columns = names(listAt(events)).size();
-    const std::size_t earlier = caseCount * static_cast<std::size_t>(listAt(events) - 1);
-    const std::size_t read = countBefore(events, "RecKit::Record::GetAll") - earlier;
-    std::vector<Lengths> broken{read == 0 ? Lengths() : Lengths(columns, read)};
-    if (midRecord && read == 1) {
-        broken.emplace_back();
-    }
-    for (std::size_t appended = 0; midRecord && read > 0 && appended < columns; ++appended) {
-        Lengths& lengths = broken.emplace_back(columns, read - 1);
-        std::fill_n(lengths.begin(), appended, read);
-    }
-    return broken;
-}
-
-// A refusal of a later list does not depend on what was read of an earlier one.
-Ending Expectation::afterBrokenReading(std::size_t events, const Lengths& broken) const
-{
-    const Lines rest = linesIn(events, whole_.events.size());
-    if (std::ranges::find(rest, stepThree) != rest.end()) {
-        return {rest, false};
-    }
-    const int list = listAt(events);
-    const Lengths other = command_.second.empty() ? broken : Lengths(names(3 - list).size(), caseCount);
-    return list == 1 ? afterReading(broken, other) : afterReading(other, broken);
+    const std::string& names = steps_[event] == Step::FirstReading ? command_.first : command_.second;
+    const auto missing = std::find_if_not(fault, events_.end(), isAllocation) - fault;
+    const auto columns = static_cast<std::ptrdiff_t>(names.size());
+    return missing > columns ? noColumns : static_cast<int>(records * columns - missing);
 }
 
 }  // namespace tests

@@ -1,55 +1,32 @@
 // What each fault in a command must lead to.
 #pragma once
 
-#include "tests/faults/faulty_run.h"
+#include "tests/faults/commands.h"
+#include "tests/faults/event_log.h"
 
-#include <cstddef>
 #include <string>
 #include <vector>
 
 namespace tests {
 
-/// What a command writes, and whether it delivers a document.
-struct Ending {
-    Lines lines;
-    bool delivered = false;
+/// The steps of a command that differ in who meets an error and in how the command goes on.
+enum class Step { Frame, Describing, Settings, FirstReading, SecondReading };
 
-    friend bool operator==(const Ending&, const Ending&) = default;
-};
-
-/// Who meets an error that is raised there.
-enum class Place { Entry, Describing, Settings, Reading };
-
-/// Worked out from a run without any fault.
+/// Worked out from what a run without any fault did.
 class Expectation {
 public:
     /// Both outlive the object.
-    Expectation(const Command& command, const Run& whole);
+    Expectation(const Command& command, const Lines& events);
 
-    /// Who meets an error raised by this event of the run, or after it and before the next.
-    Place placeOf(std::size_t event) const;
-
-    /// The endings that are right when `error` is raised in that place after so many events: one, or for an error in
-    /// the midst of a record one for each column at which the record may have been broken off.
-    std::vector<Ending> endings(Place place, std::size_t events, const std::string& error, bool midRecord) const;
-
-    /// How the command ends when each column of its lists holds so many values: the analysis, told anew in terms of
-    /// lengths, as far as the swept commands need it.
-    Ending afterReading(const std::vector<std::size_t>& first, const std::vector<std::size_t>& second) const;
-
-    /// The names in the list that is read first, or second.
-    const std::string& names(int list) const;
+    /// The one ending that is right when this event of the run, a call or an allocation, fails with `error`.
+    Ending afterFault(std::size_t event, const std::string& error) const;
 
 private:
-    Lines linesIn(std::size_t from, std::size_t to) const;
-    std::size_t countBefore(std::size_t events, const char* call) const;
-    int listAt(std::size_t events) const;
-    std::vector<std::vector<std::size_t>> brokenLists(std::size_t events, bool midRecord) const;
-    Ending afterBrokenReading(std::size_t events, const std::vector<std::size_t>& broken) const;
+    int valuesStored(std::size_t event) const;
 
     const Command& command_;
-    const Run& whole_;
-    std::vector<Place> places_;
+    const Lines& events_;
+    std::vector<Step> steps_;  ///< of each event
 };
 
 }  // namespace tests

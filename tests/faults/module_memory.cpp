@@ -14,26 +14,20 @@ struct alignas(std::max_align_t) Header {
     bool ofModule;
 };
 
-bool watching = false;
-long allocated = 0;
+std::function<bool()> isGranted;  // none: nothing is watched
 long live = 0;
-long failAt = 0;
-std::function<void()> note;
 
 bool moduleRuns()
 {
     const standin::Session* session = standin::Session::running();
-    return watching && session != nullptr && !session->monitor.insideHost();
+    return isGranted && session != nullptr && !session->monitor.insideHost();
 }
 
 void* allocate(std::size_t size)
 {
     const bool ofModule = moduleRuns();
-    if (ofModule) {
-        note();
-        if (++allocated == failAt) {
-            return nullptr;
-        }
+    if (ofModule && !isGranted()) {
+        return nullptr;
     }
     auto* const header = static_cast<Header*>(std::malloc(sizeof(Header) + size));
     if (header == nullptr) {
@@ -96,19 +90,15 @@ void operator delete(void* block, std::size_t /*size*/) noexcept
 
 namespace tests {
 
-ModuleMemory::ModuleMemory(long failing, std::function<void()> noted)
+ModuleMemory::ModuleMemory(std::function<bool()> granted)
 {
-    note = std::move(noted);
-    allocated = 0;
     live = 0;
-    failAt = failing;
-    watching = true;
+    isGranted = std::move(granted);
 }
 
 ModuleMemory::~ModuleMemory()
 {
-    watching = false;
-    note = nullptr;
+    isGranted = nullptr;
 }
 
 long ModuleMemory::stillAllocated()

@@ -9,9 +9,8 @@ namespace tests {
 /// returns, only leak detection knows. One at a time.
 class ModuleMemory {
 public:
-    /// @param failing  which allocation (from 1) is to fail with `std::bad_alloc`; 0: none
-    /// @param noted    called at every allocation
-    ModuleMemory(long failing, std::function<void()> noted);
+    /// @param granted  called at every allocation: whether it succeeds; must not allocate
+    explicit ModuleMemory(std::function<bool()> granted);
     ~ModuleMemory();
     ModuleMemory(const ModuleMemory&) = delete;
     ModuleMemory& operator=(const ModuleMemory&) = delete;

@@ -1,7 +1,7 @@
-"""Applies each small change of changes.txt to a copy of the sources and runs the tests: mutate.py ROOT BUILD DOCUMENT
+"""Applies each small change of changes.txt to a copy of the sources and runs the tests: mutate.py ROOT BUILD
 
 Each worker has a copy of the sources and a build of its own. Prints one line per change that lives, and the figures, and
-writes the list into the document; fails when a change lives without a reason, or in spite of one does not.
+writes the list to BUILD/changes.md; fails when a change lives without a reason, or in spite of one does not.
 """
 
 import concurrent.futures
@@ -14,10 +14,9 @@ import shutil
 import subprocess
 import sys
 
-ROOT, BUILD, DOCUMENT = (pathlib.Path(argument).resolve() for argument in sys.argv[1:4])
+ROOT, BUILD = (pathlib.Path(argument).resolve() for argument in sys.argv[1:3])
 PROGRAMS = ("module_tests", "fault_tests")
 TIME_LIMIT = 300
-BEGIN, END = "<!-- changes: begin -->\n", "<!-- changes: end -->\n"
 
 
 @dataclasses.dataclass
@@ -76,11 +75,10 @@ class Worker:
 
     def noticed_by(self):
         """The first test that fails, or nothing."""
-        environment = {**os.environ, "LOCPATH": str(self.build / "tests" / "locales")}
         for program in PROGRAMS:
             try:
                 result = subprocess.run([self.build / "bin" / program, "--gtest_fail_fast"], capture_output=True,
-                                        env=environment, timeout=TIME_LIMIT, check=False, errors="replace", text=True)
+                                        timeout=TIME_LIMIT, check=False, errors="replace", text=True)
             except subprocess.TimeoutExpired:
                 return f"{program}: no end"
             if result.returncode != 0:
@@ -123,8 +121,7 @@ def write_list(changes):
     for change in changes:
         told = change.noticed_by or "nothing: " + (change.reason or "no reason is known")
         rows.append(f"| {change.file.removeprefix('module/')} | {cell(change.text)} | {cell(change.replacement)} | {told} |\n")
-    before, rest = DOCUMENT.read_text(encoding="utf-8").split(BEGIN)
-    DOCUMENT.write_text(before + BEGIN + "".join(rows) + END + rest.split(END)[1], encoding="utf-8")
+    (BUILD / "changes.md").write_text("".join(rows), encoding="utf-8")
 
 
 def main():
