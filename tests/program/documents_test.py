@@ -5,15 +5,15 @@ goes on over lines that end in a backslash, and is followed by the indented outp
 outputs in the documents are written anew, to be reviewed as a change.
 """
 
-import glob
 import os
+import pathlib
 import re
 import shlex
 import subprocess
 import sys
 import unittest
 
-PROGRAM, ROOT = sys.argv[1:3]
+PROGRAM, ROOT = sys.argv[1], pathlib.Path(sys.argv[2])
 
 EXAMPLE = re.compile(r"^    \$ build/release/bin/bldatman-run ((?:.*\\\n)*.*\n)((?:    .*\n|\n(?=    ))*)", re.MULTILINE)
 
@@ -27,9 +27,8 @@ def output_of(arguments):
 
 
 def documents():
-    for path in sorted([os.path.join(ROOT, "README.md"), *glob.glob(os.path.join(ROOT, "docs", "*.md"))]):
-        with open(path, encoding="utf-8") as file:
-            yield path, file.read()
+    for path in [ROOT / "README.md", *sorted((ROOT / "docs").glob("*.md"))]:
+        yield path, path.read_text(encoding="utf-8")
 
 
 class Documents(unittest.TestCase):
@@ -46,8 +45,8 @@ class Documents(unittest.TestCase):
 
 def rewrite():
     for path, text in documents():
-        with open(path, "w", encoding="utf-8") as file:
-            file.write(EXAMPLE.sub(lambda match: match[0][:len(match[0]) - len(match[2])] + output_of(match[1]), text))
+        path.write_text(EXAMPLE.sub(lambda match: match[0].removesuffix(match[2]) + output_of(match[1]), text),
+                        encoding="utf-8")
 
 
 if __name__ == "__main__":

@@ -6,54 +6,44 @@ folder is named after; the report for a browser is stored without pictures, as i
 """
 
 import os
+import pathlib
 import shutil
 import subprocess
 import sys
 import tempfile
 import unittest
 
-PROGRAM, EXAMPLES, STORED = sys.argv[1:4]
+PROGRAM = sys.argv[1]
+EXAMPLES, STORED = map(pathlib.Path, sys.argv[2:4])
 
 EMULATOR = [program for program in [os.environ.get("EMULATOR")] if program]
 GNUPLOT = "gnuplot-5.4"
-OUTPUTS = {"full": ["full.txt", "full.json"], "ratios": ["ratios.txt", "ratios.json"],
-           "repeatability": ["repeatability.txt", "repeatability.json"]}
-REPORT = "full-without-plots.html"
 
 
-def write(folder, example, outputs, environment=None):
+def write(folder, example, *outputs, environment=None):
     """Runs the command; what it could write stands in the folder afterwards."""
-    def path(name):
-        return os.path.join(EXAMPLES, name)
-
     options = [argument for name in outputs for argument in ("-o", os.path.join(folder, name))]
-    subprocess.run([*EMULATOR, PROGRAM, path("peakflow.csv"), "-f", path(example + ".bld"), "-d", path("peakflow.json"),
-                    *options], env=environment, check=False)
+    subprocess.run([*EMULATOR, PROGRAM, EXAMPLES / "peakflow.csv", "-f", EXAMPLES / f"{example}.bld",
+                    "-d", EXAMPLES / "peakflow.json", *options], env=environment, check=False)
 
 
 def write_outputs(folder):
-    for example, outputs in OUTPUTS.items():
-        write(folder, example, outputs)
-    write(folder, "full", [GNUPLOT + "/"])
-    write(folder, "full", [REPORT], None if EMULATOR else {"PATH": folder})
+    for example in ("full", "ratios", "repeatability"):
+        write(folder, example, f"{example}.txt", f"{example}.json")
+    write(folder, "full", GNUPLOT + "/")
+    write(folder, "full", "full-without-plots.html", environment=None if EMULATOR else {"PATH": folder})
 
 
 def contents(folder):
-    """The texts of all files in the folder, by their names."""
-    texts = {}
-    for place, _, names in os.walk(folder):
-        for name in names:
-            path = os.path.join(place, name)
-            with open(path, encoding="utf-8", newline="") as file:
-                texts[os.path.relpath(path, folder)] = file.read()
-    return texts
+    """The texts of all files in the folder, by their paths."""
+    return {str(path.relative_to(folder)): path.read_bytes().decode() for path in folder.rglob("*") if path.is_file()}
 
 
 def installed_gnuplot():
     """The version that the program under test finds; under an emulator it finds none."""
-    program = None if EMULATOR else shutil.which("gnuplot")
-    version = subprocess.run([program, "--version"], capture_output=True, text=True, check=True).stdout if program else ""
-    return "-".join(version.split()[:2])
+    if EMULATOR or not shutil.which("gnuplot"):
+        return ""
+    return "-".join(subprocess.check_output(["gnuplot", "--version"], text=True).split()[:2])
 
 
 class StoredOutputs(unittest.TestCase):
@@ -63,7 +53,7 @@ class StoredOutputs(unittest.TestCase):
         with tempfile.TemporaryDirectory() as folder:
             write_outputs(folder)
             written, stored = ({name: text for name, text in contents(place).items() if concerned(name)}
-                               for place in (folder, STORED))
+                               for place in (pathlib.Path(folder), STORED))
         self.assertEqual(sorted(written), sorted(stored))
         for name, text in written.items():
             self.assertMultiLineEqual(text, stored[name], name)
