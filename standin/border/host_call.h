@@ -94,7 +94,7 @@ private:
         }
     }
 
-    const char* operation_;
+    const char* operation_ = nullptr;
     Crossing crossing_{Side::Host};
 };
 

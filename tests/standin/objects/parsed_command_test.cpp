@@ -73,7 +73,7 @@ protected:
         return result + (qualified ? "BY: " + valuesOf(ParamObj::getParamObj("BY", qualifiers)) : "");
     }
 
-    /// The same for each parameter of a subcommand.
+    /// The same for each parameter of a subcommand with that text.
     Texts valuesInSet(const std::string& text)
     {
         EXPECT_EQ(parse("INPUT=mini1 SET(" + text + ")"), 0);
