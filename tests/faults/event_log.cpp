@@ -17,7 +17,7 @@ constexpr std::string_view allocation = "allocation";
 }  // namespace
 
 EventLog::EventLog()
-    : text_(std::make_unique_for_overwrite<char[]>(room))
+    : text_(std::make_unique_for_overwrite<char[]>(room))  // NOLINT(modernize-avoid-c-arrays): as declared
     , previousErrors_(std::cerr.rdbuf(this))
 {
     setp(text_.get(), text_.get() + room);
