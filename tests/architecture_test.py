@@ -33,11 +33,12 @@ PIECES = [folder for folder in ARROWS if "/" not in folder]
 TARGETS = {"host_contract": "host", "module_objects": "module", "bldatman": "module", "text": "text", "standin": "standin",
            "report": "report", "runner": "runner", "bldatman-run": "runner"}
 MOST_SOURCES = 15
+SECOND_HOST = "examples/other_host/"
 
 
 def project():
-    """Every source and build file of the pieces and of their tests, by its path."""
-    found = (path for piece in [*PIECES, "tests"] for path in (ROOT / piece).rglob("*"))
+    """Every source and build file of the pieces, of their tests and of the second host, by its path."""
+    found = (path for piece in [*PIECES, "tests", SECOND_HOST] for path in (ROOT / piece).rglob("*"))
     return {path.relative_to(ROOT).as_posix(): path.read_text(encoding="utf-8") for path in found
             if path.suffix in {".h", ".cpp"} or path.name == "CMakeLists.txt"}
 
@@ -102,13 +103,21 @@ def crowded_folders(files):
 
 def foreign_definitions(files):
     """Members that are defined in another folder than their class; the contract alone is meant to be."""
-    homes = {name: folder_of(path) for path, text in files.items() if path.endswith(".h") and room_of(path) != "host"
+    homes = {name: folder_of(path) for path, text in files.items() if path.endswith(".h") and path.split("/")[0] not in {"host", "examples"}
              for name in re.findall(r"^(?:class|struct) (\w+)(?: final)?(?: :[^;{]*)?\s*\{", text, re.MULTILINE)}
     for path, text in files.items():
         if path.endswith(".cpp") and path.split("/")[0] in PIECES:
             for name in re.findall(r"^(?:[^\s#/(}][^(=;]*[\s&*])?(\w+)::~?\w+\(", text, re.MULTILINE):
                 if homes.get(name, folder_of(path)) != folder_of(path):
                     yield f"{path} defines a member of {name}, which {homes[name]} declares"
+
+
+def acquainted_hosts(files):
+    """The second host shares nothing with the first."""
+    for path, text in files.items():
+        for included in re.findall(r'^#include "(.+)"', text, re.MULTILINE) if path.startswith(SECOND_HOST) else ():
+            if SECOND_HOST + included not in files:
+                yield f"{path} includes {included}"
 
 
 def acquainted_renderers(files):
@@ -125,8 +134,8 @@ def platforms_in_passing(files):
             yield f"{path} asks for the platform"
 
 
-RULES = [wrong_includes, wrong_targets, circles, crowded_folders, foreign_definitions, acquainted_renderers,
-         platforms_in_passing]
+RULES = [wrong_includes, wrong_targets, circles, crowded_folders, foreign_definitions, acquainted_hosts,
+         acquainted_renderers, platforms_in_passing]
 
 # What each rule has to find once it is broken.
 BREACHES = [
@@ -139,6 +148,7 @@ BREACHES = [
     (circles, "standin/data/data_set.h", '#include "standin/session/session.h"'),
     (crowded_folders, "module/entry/x{}.cpp", ""),
     (foreign_definitions, "module/charts/x.cpp", "int BldatmanOutput::generate()\n{\n}\n"),
+    (acquainted_hosts, "examples/other_host/x.h", '#include "text/json_writer.h"'),
     (acquainted_renderers, "report/formats/render_text.cpp", '#include "report/formats/render_html.h"'),
     (platforms_in_passing, "text/x.h", "#ifdef _WIN32"),
 ]
