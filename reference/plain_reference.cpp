@@ -2,6 +2,9 @@
 
 #include "host/missing_value.h"
 
+#include <boost/math/distributions/normal.hpp>
+#include <boost/math/distributions/students_t.hpp>
+
 #include <algorithm>
 #include <bit>
 #include <cmath>
@@ -32,6 +35,75 @@ double ratioOf(double difference, double mean, bool percentage)
         return 0.0;
     }
     return percentage ? difference / mean * 100.0 : difference / mean;
+}
+
+/// The quantile that leaves half of what `percent` lacks above it.
+template <class Distribution>
+double upperQuantile(const Distribution& distribution, double percent)
+{
+    return quantile(distribution, (percent / 100.0 + 1.0) * 0.5);
+}
+
+double limitMultiplier(double agreementLimit)
+{
+    if (agreementLimit < 0.0) {
+        return -agreementLimit;  // so many standard deviations
+    }
+    return agreementLimit == 95.0   ? 1.96
+           : agreementLimit == 99.0 ? 2.576
+                                    : upperQuantile(boost::math::normal_distribution<double>(), agreementLimit);
+}
+
+void setIntervals(BldatmanPairResult& record, double n, const BldatmanCriteriaSetting& criteria)
+{
+    const boost::math::students_t_distribution<double> t(n - 1.0);
+    const double z = limitMultiplier(criteria.agreementLimit());
+    const double sd = record.sdDifference;
+    const double biasWidth = upperQuantile(t, criteria.ciLevelMeanDiff()) * (sd / std::sqrt(n));
+    const double limitWidth =
+        std::sqrt(z * z / (2.0 * (n - 1.0)) + 1.0 / n) * sd * upperQuantile(t, criteria.ciLevelAgreement());
+    record.meanDifferenceCiLower = record.meanDifference - biasWidth;
+    record.meanDifferenceCiUpper = record.meanDifference + biasWidth;
+    record.lowerLimit = record.meanDifference - z * sd;
+    record.lowerLimitCiLower = record.lowerLimit - limitWidth;
+    record.lowerLimitCiUpper = record.lowerLimit + limitWidth;
+    record.upperLimit = record.meanDifference + z * sd;
+    record.upperLimitCiLower = record.upperLimit - limitWidth;
+    record.upperLimitCiUpper = record.upperLimit + limitWidth;
+}
+
+void setRelativeLimits(BldatmanPairResult& record)
+{
+    const double m = record.meanOfMeans;
+    const bool none = m == 0.0;
+    record.lowerLimitRelative = none ? 0.0 : record.lowerLimit / m;
+    record.lowerLimitCiLowerRelative = none ? 0.0 : record.lowerLimitCiLower / m;
+    record.lowerLimitCiUpperRelative = none ? 0.0 : record.lowerLimitCiUpper / m;
+    record.upperLimitRelative = none ? 0.0 : record.upperLimit / m;
+    record.upperLimitCiLowerRelative = none ? 0.0 : record.upperLimitCiLower / m;
+    record.upperLimitCiUpperRelative = none ? 0.0 : record.upperLimitCiUpper / m;
+}
+
+/// All seventeen, in the order of the record.
+std::vector<double> statisticsOf(const BldatmanPairResult& record)
+{
+    return {record.meanDifference,
+            record.sdDifference,
+            record.meanDifferenceCiLower,
+            record.meanDifferenceCiUpper,
+            record.lowerLimit,
+            record.upperLimit,
+            record.lowerLimitCiLower,
+            record.lowerLimitCiUpper,
+            record.upperLimitCiLower,
+            record.upperLimitCiUpper,
+            record.meanOfMeans,
+            record.lowerLimitRelative,
+            record.lowerLimitCiLowerRelative,
+            record.lowerLimitCiUpperRelative,
+            record.upperLimitRelative,
+            record.upperLimitCiLowerRelative,
+            record.upperLimitCiUpperRelative};
 }
 
 bool isSame(double x, double y)
@@ -95,20 +167,19 @@ BldatmanPairResult plainRecord(const Column& a, const Column& b, const BldatmanC
         squares += (difference - record.meanDifference) * (difference - record.meanDifference);
     }
     record.sdDifference = std::sqrt(squares / (n - 1.0));
+    setIntervals(record, n, criteria);
+    setRelativeLimits(record);
     return record;
 }
 
 std::string firstDifference(const BldatmanPairResult& one, const BldatmanPairResult& other)
 {
-    const auto statistics = [](const BldatmanPairResult& record) {
-        return std::vector{record.meanDifference, record.sdDifference, record.meanOfMeans};
-    };
     for (const std::string& difference :
          {firstDifference("valuesA", one.valuesA, other.valuesA),
           firstDifference("valuesB", one.valuesB, other.valuesB), firstDifference("means", one.means, other.means),
           firstDifference("differences", one.differences, other.differences),
           firstDifference("ratios", one.ratios, other.ratios),
-          firstDifference("statistics", statistics(one), statistics(other))}) {
+          firstDifference("statistics", statisticsOf(one), statisticsOf(other))}) {
         if (!difference.empty()) {
             return difference;
         }

@@ -13,11 +13,12 @@ namespace reference {
 /// The nearest integer, halves away from zero. (One C library's own round is off just below a half.)
 double roundedHalfAwayFromZero(double value);
 
-/// The record of a pair: its vectors, bias, standard deviation and mean of means; all else is 0.
+/// The record of a pair, without the names.
+/// @throws what the quantiles throw: for fewer than two cases, and for levels that have none
 bldatman::BldatmanPairResult plainRecord(const bldatman::Column& a, const bldatman::Column& b,
                                          const bldatman::BldatmanCriteriaSetting& criteria);
 
-/// Where two records first differ by a bit in what `plainRecord` fills in, for instance "means[3]: 1 and 2"; empty when
+/// Where two records first differ by a bit, names apart, for instance "means[3]: 1 and 2"; empty when
 /// nowhere. Any NaN is as good as any other.
 std::string firstDifference(const bldatman::BldatmanPairResult& one, const bldatman::BldatmanPairResult& other);
 

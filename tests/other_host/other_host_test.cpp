@@ -1,5 +1,5 @@
 // The module in the second host, which does what the stand-in never does: refuses, fails half-way, loses records.
-#include "this_host.h"
+#include "tests/other_host/odd_run.h"
 
 #include <gmock/gmock.h>
 
@@ -10,11 +10,7 @@
 #include <fstream>
 #include <iostream>
 #include <iterator>
-#include <limits>
 #include <regex>
-#include <sstream>
-
-extern "C" void BLDATMAN();
 
 namespace {
 
@@ -22,59 +18,11 @@ using other::Oddity;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
-using Texts = std::vector<std::string>;
-using Oddities = std::map<std::string, Oddity>;
-
-/// The pieces of a text between separators.
-Texts split(const std::string& text, char separator)
-{
-    Texts pieces;
-    std::istringstream rest(text);
-    for (std::string piece; std::getline(rest, piece, separator);) {
-        pieces.push_back(piece);
-    }
-    return pieces;
-}
-
-/// Rows between semicolons: the names, then the cases. A point is a missing value; what is no number makes its variable
-/// nominal.
-void setData(const std::string& data)
-{
-    Texts rows = split(data, ';');
-    for (const std::string& name : split(rows.front(), ',')) {
-        theHost.variables.push_back({name});
-    }
-    rows.erase(rows.begin());
-    for (const std::string& row : rows) {
-        std::vector<double>& values = theHost.cases.emplace_back();
-        for (const std::string& cell : split(row, ',')) {
-            theHost.variables[values.size()].level = std::isalpha(cell.front()) != 0 ? 1 : 3;
-            values.push_back(cell == "." ? std::numeric_limits<double>::lowest() : std::atof(cell.c_str()));
-        }
-    }
-}
-
-struct Outcome {
-    Texts documents;
-    std::string errors;
-
-    bool operator==(const Outcome&) const = default;
-};
-
-Outcome run(const std::string& data, const std::string& command, const Oddities& oddities = {},
-            const std::string& language = "en")
-{
-    theHost = {};
-    setData(data);
-    static const std::regex token("[=():]|[^\\s=():]+");
-    theHost.command.assign(std::sregex_token_iterator(command.begin(), command.end(), token), {});
-    theHost.languageCode = language;
-    theHost.languageFolder = "texts";  // one component: the code counts
-    theHost.oddities = oddities;
-    testing::internal::CaptureStderr();
-    BLDATMAN();
-    return {theHost.documents, testing::internal::GetCapturedStderr()};
-}
+using tests::Oddities;
+using tests::Outcome;
+using tests::run;
+using tests::split;
+using tests::Texts;
 
 const char* const twoColumns = "a,b;1,2;3,5;2,4";
 

@@ -90,14 +90,15 @@ TEST(AnalysisRun, RefusesListwiseWithFewerColumnsInTheSecondList)
     EXPECT_EQ(outcome.errors, "BLDATMAN: Standard exception: Inner vectors must have the same size\n");
 }
 
-TEST(AnalysisRun, TreatsANotANumberAsMissingOnlyWhenListwise)
+TEST(AnalysisRun, TreatsANotANumberButNoInfinityAsMissingOnlyWhenListwise)
 {
-    Host host("a,b;1,2;2,3;4,4");
+    Host host("a,b;1,2;2,3;4,4;5,6");
     host.session.dataSet.variables[0].values[1] = std::numeric_limits<double>::quiet_NaN();
+    host.session.dataSet.variables[0].values[3] = -std::numeric_limits<double>::infinity();
     host.run("VARIABLE=a WITH=b PRINT(DETAILS)");
     EXPECT_EQ(tests::json(host.object(0)["cells"][1]), R"(["nan",3.0,"NaN","NaN","NaN"])");
     host.run("VARIABLE=a WITH=b CRITERIA(SCOPE=LISTWISE)");
-    EXPECT_EQ(pointsIn(host, 0), 2U);
+    EXPECT_EQ(pointsIn(host, 0), 3U);
 }
 
 TEST(AnalysisRun, SortsTheRowsOfEveryPairWhenAsked)

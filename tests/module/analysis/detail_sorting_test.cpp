@@ -84,7 +84,10 @@ std::string refusalOf(BldatmanPairResult record, const std::string& key)
 
 TEST(DetailSorting, RefusesUnknownKeysEmptyRecordsAndVectorsOfDifferentLengths)
 {
-    EXPECT_EQ(refusalOf(threeCases(), "mean"), "invalid argument: Invalid sort key: mean");
+    for (const std::string key :
+         {"", "CASE", "E", "MEAM", "MEASUREMENT ", "N", "SORT", "mean"}) {  // around the known ones
+        EXPECT_EQ(refusalOf(threeCases(), key), "invalid argument: Invalid sort key: " + key);
+    }
     EXPECT_EQ(refusalOf({}, "MEAN"), "invalid argument: The selected vector for sorting is empty.");
     BldatmanPairResult uneven = threeCases();
     for (const std::size_t length : {2U, 4U}) {

@@ -165,9 +165,12 @@ TEST(PairStatistics, TakesTheRatioFromUnroundedValuesAndSetsItToZeroWhereTheMean
 {
     BldatmanCriteriaSubcommand criteria;
     criteria.percentage = "TRUE";
-    const auto result = analyse({8.5, 3, 0.0004}, {7.5, -3, 0.0002}, criteria);
-    EXPECT_THAT(result.ratios, ElementsAre(12.5, 0, 66.667));
-    EXPECT_THAT(result.means, ElementsAre(8, 0, 0));
+    const auto result = analyse({8.5, 3, 0.0004, 3e-13}, {7.5, -3, 0.0002, -1e-13}, criteria);
+    EXPECT_THAT(result.ratios, ElementsAre(12.5, 0, 66.667, 400));
+    EXPECT_THAT(result.means, ElementsAre(8, 0, 0, 0));
+    const auto tiny = analyse({0x1p-60, 0x3p-60}, {0, 0}, criteria);
+    EXPECT_EQ(tiny.meanOfMeans, 0x1p-60);
+    EXPECT_EQ(tiny.upperLimitRelative, tiny.upperLimit * 0x1p60);
 }
 
 TEST(PairStatistics, HasTheFixedMultipliersBesideTheQuantiles)

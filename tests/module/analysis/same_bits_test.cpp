@@ -108,6 +108,12 @@ void expectPlainRecord(std::size_t cases, const std::vector<double>& odd, const 
 TEST(SameBits, GivesTheRecordOfThePlainComputation)
 {
     BldatmanCriteriaSubcommand raw;
+    raw.ciLevelAgreement = 99;
+    raw.ciLevelMeanDiff = 80;
+    for (const char* limits : {"95", "99", "80.5", "TWOSD", "THREESD"}) {
+        raw.agreementLimits = limits;
+        expectPlainRecord(25, finiteOdd, BldatmanCriteriaSetting(raw));
+    }
     for (const char* logTransform : {"FALSE", "TRUE"}) {
         for (const char* percentage : {"FALSE", "TRUE"}) {
             raw.logTransform = logTransform;

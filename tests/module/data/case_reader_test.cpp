@@ -52,6 +52,7 @@ TEST(CaseReader, DescribesEachVariableByItsLevelAndLabel)
                             R"({"variables": {"a": {"label": "First"}, "b": {"level": "ordinal", "valueLabels": {"2":
                                 "low", "4": "high", "6": "top"}}}})",
                             "d.json");
+    host.session.dataSet.variables[3].level = static_cast<QUVO_Variable_Enumerations::MeasurementLevel>(4);
     ProcedureDataSource source;
     AlgoDataAccessFactory factory;
     const AlgoDataAccess& access = factory.createDataAccess({0, 1, 2, 3, 0}, source, {true, true, true});
@@ -66,6 +67,17 @@ TEST(CaseReader, DescribesEachVariableByItsLevelAndLabel)
     ASSERT_TRUE(access.getIterator().HasMore());
     EXPECT_EQ(access.getIterator().Next()->Size(), 5) << "the host still delivers the repeated variable";
     EXPECT_EQ(&factory.createDataAccess({0}, source, {true, true, true}), &access);
+}
+
+TEST(CaseReader, DeclaresAVariableWithTheFlagsThatItIsGiven)
+{
+    tests::TracedSession host("a,b;1,2");
+    ProcedureDataSource source;
+    AlgoDataAccessFactory().createDataAccess({1}, source, {false, true, false});
+    AlgoDataAccessFactory().createDataAccess({0}, source, {true, false, true});
+    EXPECT_THAT(tests::callsOf(host.takeTrace(), {"ACAVarValidSpecs::AddVariable"}),
+                ElementsAre("ACAVarValidSpecs::AddVariable [1,false,false,true,false]",
+                            "ACAVarValidSpecs::AddVariable [0,false,true,false,true]"));
 }
 
 /// Reads two cases of one variable with the n-th fallible call failing.
