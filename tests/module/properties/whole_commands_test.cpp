@@ -6,7 +6,6 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
-#include <cmath>
 #include <random>
 #include <string>
 #include <utility>
@@ -118,12 +117,6 @@ protected:
     tests::Host host{"a"};
 };
 
-Row scaled(Row row, double factor)
-{
-    std::ranges::transform(row, row.begin(), [factor](double value) { return value * factor; });
-    return row;
-}
-
 /// A document without all that a sort moves, and without the footnote that tells of it.
 std::string withoutRows(const Value& document)
 {
@@ -155,11 +148,6 @@ Row mirrored(Row row, std::vector<std::size_t> order)
     return result;
 }
 
-double rounded(double value)
-{
-    return std::round(value * 1000.0) / 1000.0;
-}
-
 TEST_P(WholeCommands, MirrorWhenTheTwoVariablesChangePlaces)
 {
     const DataSet dataSet = draw.dataSet(20);
@@ -175,37 +163,6 @@ TEST_P(WholeCommands, MirrorWhenTheTwoVariablesChangePlaces)
     for (std::size_t i = 0; i < 2; ++i) {
         EXPECT_EQ(mirrored(cellsOf(document, biasTable)[i], {0, 2, 1}), cellsOf(swapped, biasTable)[i]);
         EXPECT_EQ(mirrored(cellsOf(document, limitsTable)[i], {3, 5, 4, 0, 2, 1}), cellsOf(swapped, limitsTable)[i]);
-    }
-}
-
-TEST_P(WholeCommands, KeepTheDifferencesWhenBothVariablesAreShiftedAndScaleWithThem)
-{
-    const DataSet dataSet = draw.dataSet(20);
-    DataSet shifted = dataSet;
-    DataSet larger = dataSet;
-    const double shift = draw.between(-9999, 9999) / 64.0;
-    const double factor = std::ldexp(1.0, draw.between(-20, 20));
-    for (std::size_t variable = 0; variable < 2; ++variable) {
-        for (std::size_t i = 0; i < dataSet.caseCount; ++i) {
-            if (const double value = dataSet.variables[variable].values[i]; value != systemMissingValue) {
-                shifted.variables[variable].values[i] = value + shift;
-                larger.variables[variable].values[i] = value * factor;
-            }
-        }
-    }
-    const std::string command = "VARIABLE=a WITH=b CRITERIA(" + draw.settings() + ")" + everyTable;
-    const Value& document = documentOf(dataSet, command);
-    const Value& shiftedDocument = documentOf(shifted, command);
-    const Value& largerDocument = documentOf(larger, command);
-    const Rows rows = cellsOf(document, details);
-    for (std::size_t i = 0; i < rows.size(); ++i) {
-        EXPECT_EQ(rows[i][3], cellsOf(shiftedDocument, details)[i][3]);
-    }
-    for (const char* table : {biasTable, limitsTable}) {
-        const Rows intervals = cellsOf(document, table);
-        EXPECT_EQ(intervals[0], cellsOf(shiftedDocument, table)[0]);
-        EXPECT_EQ(scaled(intervals[0], factor), cellsOf(largerDocument, table)[0]);
-        EXPECT_EQ(intervals[1], cellsOf(largerDocument, table)[1]);
     }
 }
 
@@ -254,34 +211,6 @@ TEST_P(WholeCommands, AgreeInBothScopesWhereNothingIsMissing)
         return "VARIABLE=a b WITH=c d CRITERIA(SCOPE=" + scope + " LOGTRANSFORM=" + log + settings + ")" + everyTable;
     };
     EXPECT_EQ(objectsOf(documentOf(dataSet, command("ANALYSIS"))), objectsOf(documentOf(dataSet, command("LISTWISE"))));
-}
-
-TEST_P(WholeCommands, TakePercentagesBeforeTheyRound)
-{
-    const DataSet dataSet = draw.dataSet(20);
-    const auto command = [settings = draw.settings()](const std::string& percentage) {
-        return "VARIABLE=a WITH=b CRITERIA(PERCENTAGE=" + percentage + settings + ")" + everyTable;
-    };
-    const Value& ratios = documentOf(dataSet, command("FALSE"));
-    const Value& percentages = documentOf(dataSet, command("TRUE"));
-    for (const char* table : {biasTable, limitsTable}) {
-        EXPECT_EQ(scaled(cellsOf(ratios, table)[1], 100.0), cellsOf(percentages, table)[1]);
-    }
-    Rows expected;
-    Rows expectedPercentages;
-    for (std::size_t i = 0; i < dataSet.caseCount; ++i) {
-        const double a = dataSet.variables[0].values[i];
-        const double b = dataSet.variables[1].values[i];
-        if (a != systemMissingValue && b != systemMissingValue) {
-            const double mean = (a + b) / 2;
-            const double ratio = mean == 0 ? 0 : (a - b) / mean;
-            expected.push_back({rounded(a), rounded(b), rounded(mean), rounded(a - b), rounded(ratio)});
-            expectedPercentages.push_back(expected.back());
-            expectedPercentages.back()[4] = rounded(ratio * 100);
-        }
-    }
-    EXPECT_EQ(expected, cellsOf(ratios, details));
-    EXPECT_EQ(expectedPercentages, cellsOf(percentages, details));
 }
 
 INSTANTIATE_TEST_SUITE_P(Drawn, WholeCommands, testing::Range(1U, 101U));
