@@ -1,4 +1,4 @@
-"""Applies each small change of changes.txt to a copy of the sources and runs the tests: mutate.py ROOT BUILD
+"""Applies each small change of changes.txt and drawn.txt to a copy of the sources and runs the tests: mutate.py ROOT BUILD
 
 Each worker has a copy of the sources and a build of its own. Prints one line per change that lives, and the figures, and
 writes the list to BUILD/changes.md; fails when a change lives without a reason, or in spite of one does not.
@@ -6,6 +6,7 @@ writes the list to BUILD/changes.md; fails when a change lives without a reason,
 
 import concurrent.futures
 import dataclasses
+import itertools
 import os
 import pathlib
 import re
@@ -44,7 +45,8 @@ class Change:
 def read_changes():
     changes = []
     file = ""
-    for line in (pathlib.Path(__file__).parent / "changes.txt").read_text(encoding="utf-8").splitlines():
+    for line in itertools.chain(*((pathlib.Path(__file__).parent / name).read_text(encoding="utf-8").splitlines()
+                                  for name in ("changes.txt", "drawn.txt"))):
         mark, text = line[:1], line[2:].replace("\\n", "\n")
         if mark == "-":
             changes.append(Change(file, text))
