@@ -32,7 +32,7 @@ STATEMENT = re.compile(r" +(?!return|using|throw|auto|const|std::|\w+ \w+[;=({])
 def candidates(lines):
     """First line, number of lines, and what replaces them, for every change that could be made."""
     for i, line in enumerate(lines):
-        if line.lstrip().startswith(("//", "#", "*", "static_assert")):
+        if line.lstrip().startswith(("//", "#", "*", "static_assert")) or r"\n" in line:  # stands for a line end there
             continue
         code = line.split("  //")[0].rstrip()
         for pattern, replacements in SWAPS:
