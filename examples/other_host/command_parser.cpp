@@ -9,9 +9,9 @@ constexpr int variableList = 16;
 
 int positionOf(const std::string& name)
 {
-    const other::Variable* variable = other::find(theHost.variables, name);
-    return variable != nullptr ? static_cast<int>(variable - theHost.variables.data())
-                               : throw std::invalid_argument("no variable " + name);
+    const other::Variable* found = other::find(theHost.variables, name);
+    return found != nullptr ? static_cast<int>(found - theHost.variables.data())
+                            : throw std::out_of_range("no " + name);
 }
 
 class Reader {
@@ -36,12 +36,7 @@ private:
 
     std::string take() { return theHost.command.at(at_++); }
 
-    bool takeIf(const std::string& token)
-    {
-        const bool stands = peek() == token;
-        at_ += stands ? 1 : 0;
-        return stands;
-    }
+    bool takeIf(const std::string& token) { return peek() == token && ++at_ > 0; }
 
     void expect(const std::string& token)
     {
@@ -113,7 +108,7 @@ bool VarSpecObj::ValidateVariables(std::vector<QuvoVarName>& variables, UPSpecTy
         for (const QuvoVarName& variable : variables) {
             positions.push_back(positionOf(variable.name));
         }
-    } catch (const std::invalid_argument& refusal) {
+    } catch (const std::out_of_range& refusal) {
         theHost.complaints.push_back(*list + " of " + *part + ": " + refusal.what());
         return false;
     }

@@ -54,7 +54,7 @@ void Table::addTableToProcedureJSON()
     call("Table::addTableToProcedureJSON");
     auto& allocator = document->allocator;
     Value table(rapidjson::kObjectType);
-    table.AddMember("name", *name, allocator).AddMember("title", title, allocator);
+    table.AddMember("name", *keptName, allocator).AddMember("title", title, allocator);
     table.AddMember("footnotes", json(footnotes, allocator), allocator);
     table.AddMember("rows", dimension->rows->getJson(), allocator);
     table.AddMember("columns", dimension->columns->getJson(), allocator);

@@ -30,6 +30,7 @@ struct Host {
     std::string languageFolder = "C:\\host\\texts\\en\\";
     std::map<std::string, Oddity> oddities;   ///< by what a call begins with: its line, its number, a blank
     std::vector<std::string> trace;           ///< a line a call: operation, tab, arguments as a JSON array
+    std::vector<std::string> receivers;       ///< of calls on objects: the name, where it has one, and the operation
     std::vector<std::string> complaints;      ///< what the user is to be told
     std::vector<std::string> releasedTables;  ///< the internal names of the tables that are gone
     std::vector<std::string> documents;       ///< what was delivered, as JSON
@@ -103,7 +104,7 @@ inline std::string upperCase(std::string text)
 class Object {
 public:
     Object() = default;
-    Object(const Object&) {}
+    Object(const Object& original) { name = original.name; }
     virtual ~Object()
     {
         if (!type_.empty()) {
@@ -114,9 +115,17 @@ public:
     /// For the constructor, with what it was given.
     void begin(const std::string& type, const auto&... arguments)
     {
-        call(type + "::" + type, arguments...);
+        other::call(type + "::" + type, arguments...);
         type_ = type;
     }
+
+    bool call(const std::string& operation, const auto&... arguments) const
+    {
+        theHost.receivers.push_back(name + ' ' + operation);
+        return other::call(operation, arguments...);
+    }
+
+    std::string name;
 
 private:
     std::string type_;

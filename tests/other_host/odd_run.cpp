@@ -24,7 +24,9 @@ void setData(const std::string& data)
     for (const std::string& row : rows) {
         std::vector<double>& values = theHost.cases.emplace_back();
         for (const std::string& cell : split(row, ',')) {
-            theHost.variables[values.size()].level = std::isalpha(cell.front()) != 0 ? 1 : 3;
+            if (std::isalpha(cell.front()) != 0) {
+                theHost.variables.at(values.size()).level = 1;
+            }
             values.push_back(cell == "." ? std::numeric_limits<double>::lowest() : std::atof(cell.c_str()));
         }
     }

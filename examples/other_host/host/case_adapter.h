@@ -49,12 +49,14 @@ struct ACAProcDataSourceIter : virtual RecKit::RecordIterator {
 
     bool HasMore() override { return call("RecKit::RecordIterator::HasMore"), next < theHost.cases.size(); }
 
-    /// A row that lacks values makes a shorter record.
+    /// A row that lacks values makes a shorter record; a value beyond the variables comes last.
     RecKit::Record* Next() override
     {
         const std::vector<double>& row = theHost.cases[next++];
+        std::vector<std::size_t> positions = adapter->specs->positions;
+        positions.push_back(theHost.variables.size());
         record.values.clear();
-        for (const std::size_t position : adapter->specs->positions) {
+        for (const std::size_t position : positions) {
             if (position < row.size()) {
                 record.values.push_back(row[position]);
             }

@@ -23,7 +23,7 @@ enum RepeatVarOptions : int {};
 struct ParserMessage : other::Object {
     ParserMessage() { begin("ParserMessage"); }
 
-    void SetCommandName(std::string name) { call("ParserMessage::SetCommandName", name); }
+    void SetCommandName(std::string command) { call("ParserMessage::SetCommandName", command); }
     void SetProcedureTitle(std::string title) { call("ParserMessage::SetProcedureTitle", title); }
     void NeedDepVarCont(QuvoVarName variable, std::string parameter, std::nullptr_t extra)
     {
@@ -48,7 +48,6 @@ struct ParamDescriptor : other::Object {
     void addStringValue(std::string text) { call("ParamDescriptor::addStringValue", values.emplace_back(text)); }
     void addQualifDesc(ParamDescriptor one) { call("ParamDescriptor::addQualifDesc"), qualifiers.push_back(one); }
 
-    std::string name;
     int kind = 0;
     std::vector<std::string> values;  ///< none: any is allowed
     std::vector<ParamDescriptor> qualifiers;
@@ -64,12 +63,11 @@ struct SubComDescriptor : other::Object {
     void addParamDesc(ParamDescriptor one) { call("SubComDescriptor::addParamDesc"), parameters.push_back(one); }
     ParamDescriptor* getParamDesc(std::string key) { return lookUp("SubComDescriptor::getParamDesc", parameters, key); }
 
-    std::string name;
     std::vector<ParamDescriptor> parameters;
 };
 
 struct CommandDescriptor : other::Object {
-    explicit CommandDescriptor(std::string command) { begin("CommandDescriptor", command); }
+    explicit CommandDescriptor(std::string command) { begin("CommandDescriptor", name = command); }
 
     void addSubComDesc(SubComDescriptor one) { call("CommandDescriptor::addSubComDesc"), parts.push_back(one); }
     SubComDescriptor* getSubComDesc(std::string key) { return lookUp("CommandDescriptor::getSubComDesc", parts, key); }

@@ -40,9 +40,9 @@ struct StatJSONConverter : other::Object {
 };
 
 struct OPSCommonOutput : other::Object {
-    OPSCommonOutput(ACAVarValidSpecs*, ProcedureDataSource&, BpProcedure*, std::nullptr_t adapter)
+    OPSCommonOutput(ACAVarValidSpecs*, ProcedureDataSource&, BpProcedure*, auto none)
     {
-        begin("OPSCommonOutput", adapter);
+        begin("OPSCommonOutput", none);
     }
 };
 
@@ -53,9 +53,9 @@ struct Dimension;
 struct Table : other::Object {
     Table(StatJSONGenerator* forDocument, std::string& internalName)
     {
-        begin("Table", *(name = &internalName)), document = forDocument;
+        begin("Table", *(keptName = &internalName)), document = forDocument;
     }
-    ~Table() override { theHost.releasedTables.push_back(*name); }
+    ~Table() override { theHost.releasedTables.push_back(*keptName); }
 
     void set_table_title(std::string text) { call("Table::set_table_title", title = text); }
     void hide_title(bool hide) { call("Table::hide_title", hide); }
@@ -75,7 +75,7 @@ struct Table : other::Object {
     void addTableToProcedureJSON();
 
     StatJSONGenerator* document = nullptr;
-    const std::string* name = nullptr;
+    const std::string* keptName = nullptr;
     std::string title;
     std::vector<std::string> footnotes;
     Dimension* dimension = nullptr;
@@ -151,6 +151,5 @@ struct StatGPLGraph : other::Object {
     virtual void writeGPL(rapidjson::Value& graph, rapidjson::Document::AllocatorType& allocator) = 0;
 
     StatJSONGenerator* document = nullptr;
-    std::string name;
     std::map<std::string, std::variant<const std::vector<double>*, const std::vector<std::string>*>> columns;
 };

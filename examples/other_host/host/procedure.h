@@ -4,7 +4,7 @@
 #include "host/data_source.h"
 
 struct BpProcedure : other::Object {
-    BpProcedure(std::string name, int code) { begin("BpProcedure", name, code); }
+    BpProcedure(std::string command, int code) { begin("BpProcedure", name = command, code); }
 };
 
 /// The host knows which data set is active.

@@ -21,6 +21,35 @@ struct Description {
     const standin::CommandDescription& described() const { return descriptor.data->description; }
 };
 
+template <class Part>
+std::string namesOf(const std::vector<Part>& parts)
+{
+    std::string names;
+    for (const Part& part : parts) {
+        names += (names.empty() ? "" : " ") + part.name;
+        if constexpr (requires { part.parameters; }) {
+            names += "(" + namesOf(part.parameters) + ")";
+        } else if (!part.qualifiers.empty()) {
+            names += "(" + namesOf(part.qualifiers) + ")";
+        }
+    }
+    return names;
+}
+
+TEST(CommandDescriber, AddsEachPartOnceInOrder)
+{
+    Description host;
+    for (const int number : {0, 1, 2, 3}) {
+        EXPECT_EQ(host.describer.m_setSubCommandDescription(number), 0);
+    }
+    EXPECT_EQ(
+        namesOf(host.described().subcommands),
+        "(VARIABLE WITH PAIRED) "
+        "CRITERIA(SCOPE CLASSMISSING LOGTRANSFORM AGREEMENT_LIMITS CILEVEL_AGREEMENT CILEVEL_MEANDIFF PERCENTAGE) "
+        "PRINT(DETAILS ROWS SORT(BY DESCENDING) AGREEMENT MEANDIFF PERCENTAGE) "
+        "PLOT(RATIO REFLINE AGREEMENT_LIMITS CI_MEANDIFF)");
+}
+
 TEST(CommandDescriber, RefusesAnyOtherNumber)
 {
     Description host;
