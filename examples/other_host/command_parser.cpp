@@ -10,8 +10,7 @@ constexpr int variableList = 16;
 int positionOf(const std::string& name)
 {
     const other::Variable* found = other::find(theHost.variables, name);
-    return found != nullptr ? static_cast<int>(found - theHost.variables.data())
-                            : throw std::out_of_range("no " + name);
+    return found != nullptr ? static_cast<int>(found - theHost.variables.data()) : throw std::out_of_range(name);
 }
 
 class Reader {
@@ -109,7 +108,7 @@ bool VarSpecObj::ValidateVariables(std::vector<QuvoVarName>& variables, UPSpecTy
             positions.push_back(positionOf(variable.name));
         }
     } catch (const std::out_of_range& refusal) {
-        theHost.complaints.push_back(*list + " of " + *part + ": " + refusal.what());
+        theHost.complaints.push_back(*list + " of " + *part + ": there is no " + refusal.what());
         return false;
     }
     return validating;

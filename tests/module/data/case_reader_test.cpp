@@ -3,13 +3,11 @@
 #include "host/missing_value.h"
 #include "module/data/data_access.h"
 #include "runner/input/dictionary.h"
-#include "tests/support/captured_errors.h"
 #include "tests/support/traced_session.h"
 
 #include <gmock/gmock.h>
 
 #include <sstream>
-#include <stdexcept>
 
 namespace bldatman {
 namespace {
@@ -78,32 +76,6 @@ TEST(CaseReader, DeclaresAVariableWithTheFlagsThatItIsGiven)
     EXPECT_THAT(tests::callsOf(host.takeTrace(), {"ACAVarValidSpecs::AddVariable"}),
                 ElementsAre("ACAVarValidSpecs::AddVariable [1,false,false,true,false]",
                             "ACAVarValidSpecs::AddVariable [0,false,true,false,true]"));
-}
-
-/// Reads two cases of one variable with the n-th fallible call failing.
-std::string readWithFailure(long call, const std::function<void()>& raise, Columns& columns)
-{
-    tests::TracedSession host("a;1;2");
-    ProcedureDataSource source;
-    host.session.monitor.failAtCall(call, raise);
-    const tests::CapturedErrors errors;
-    readCaseColumns({0}, source, columns);
-    return errors.text();
-}
-
-TEST(CaseReader, ReportsAnErrorAndKeepsTheCasesReadBeforeIt)
-{
-    constexpr long secondHasMore = 15;
-    Columns columns;
-    EXPECT_EQ(readWithFailure(
-                  secondHasMore, [] { throw std::runtime_error("disk gone"); }, columns),
-              "Standard exception: disk gone\n");
-    EXPECT_THAT(columns, ElementsAre(ElementsAre(1)));
-    columns.clear();
-    EXPECT_EQ(readWithFailure(
-                  1, [] { throw 1; }, columns),
-              "Unknown exception occurred.\n");
-    EXPECT_THAT(columns, IsEmpty());
 }
 
 }  // namespace

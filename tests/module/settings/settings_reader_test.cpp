@@ -7,7 +7,6 @@
 
 #include <gmock/gmock.h>
 
-#include <stdexcept>
 
 namespace {
 
@@ -36,26 +35,6 @@ TEST(SettingsReader, KeepsTheRowsModulo65536)
                                          {"", "First 3 records are printed."}}) {
         host.run(std::string("VARIABLE=a WITH=b PRINT(DETAILS ") + rows + ")");
         EXPECT_STREQ(host.object(0)["footnotes"][0].GetString(), footnote);
-    }
-}
-
-TEST(SettingsReader, TurnsAnExceptionIntoItsLineAndAFailure)
-{
-    for (const bool standard : {true, false}) {
-        Host host("a,b;1,2;2,4");
-        // Nothing inside the reader catches what the question for CRITERIA raises.
-        const auto whole = host.run("VARIABLE=a WITH=b");
-        const long call = tests::fallibleCallsUpTo(whole.trace, "CommandSpec::getSubComObj\t[\"CRITERIA\"]");
-        host.session.monitor.failAtCall(call, [standard] {
-            if (standard) {
-                throw std::runtime_error("no luck");
-            }
-            throw 42;
-        });
-        EXPECT_EQ(host.run("VARIABLE=a WITH=b").errors,
-                  std::string("BldatmanInputSetting::start: ") +
-                      (standard ? "Standard exception: no luck" : "Unknown exception occurred.") +
-                      "\nbldatman_entry: Step3 Unknown error occurred.\n");
     }
 }
 
