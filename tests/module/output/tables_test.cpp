@@ -11,8 +11,6 @@ namespace {
 using tests::Host;
 using tests::json;
 
-const char* const twoCases = "a,b;1,2;3,2";
-
 std::string csvOf(int cases)
 {
     std::string csv = "a,b";
@@ -48,19 +46,24 @@ TEST(DetailsTable, WritesANotANumberAsATextInTheMeasurementsAlone)
     EXPECT_STREQ(host.object(0)["columns"]["children"][4]["value"].GetString(), "Difference/Mean%");
 }
 
-TEST(Labels, OfTablesAndPlotsAreMadeOtherwise)
+TEST(Output, MakesLabelsOnRequestAndIsAsEmptyAsItsRecords)
 {
-    const Host host(twoCases);
+    const Host host("a,b;1,2;3,2");
     BpProcedure procedure("P", 10);
     ProcedureDataSource source;
     CommandSpec command;
     CommandDescriptor descriptor("P");
     const bldatman::BldatmanInputSetting settings(command, descriptor, source);
-    const std::vector<bldatman::BldatmanPairResult> results;
-    const bldatman::BldatmanOutput output(procedure, source, results, settings);
+    std::vector<bldatman::BldatmanPairResult> results;
+    bldatman::BldatmanOutput output(procedure, source, results, settings);
     EXPECT_EQ(bldatman::BldatmanOutput::formatLevel(99.999), "100.00");
     EXPECT_EQ(output.agreementLabel(), "95.00% Agreement");
     EXPECT_EQ(output.makeAgreementLimitLabel(), "95.00% Agreement Limit");
+    EXPECT_EQ(output.generate(), 1);
+    EXPECT_TRUE(host.session.documents.empty());
+    results.emplace_back();  // a pair without cases
+    EXPECT_EQ(output.generate(), 0);
+    EXPECT_EQ(json(host.object(0)["data"]["xMinMax"]), "[0.0,0.0]");
 }
 
 }  // namespace
