@@ -35,7 +35,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     static Discarded discarded;
     std::cerr.rdbuf(&discarded);
-    const std::string text = fuzz::textOf(data, size);
+    const std::string text = fuzz::asText(data, size);
     run(standin::singleCommand(text));
     try {
         for (const standin::CommandText& command : runner::cutCommands(text, "commands.bld")) {

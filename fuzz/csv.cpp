@@ -8,7 +8,7 @@
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     try {
-        const standin::DataSet read = runner::readCsv(fuzz::textOf(data, size), "data.csv");
+        const standin::DataSet read = runner::readCsv(fuzz::asText(data, size), "data.csv");
         for (const standin::Variable& variable : read.variables) {
             if (variable.name.empty() || variable.values.size() != read.caseCount) {
                 std::abort();

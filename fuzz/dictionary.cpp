@@ -22,7 +22,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
     standin::DataSet dataSet = runner::readCsv("a,b,t\n1,2,x\n3,-9,y\n", "data.csv");
     const standin::DataSet before = dataSet;
     try {
-        runner::applyDictionary(dataSet, fuzz::textOf(data, size), "names.json");
+        runner::applyDictionary(dataSet, fuzz::asText(data, size), "names.json");
     } catch (const runner::InputError&) {
         if (!std::ranges::equal(dataSet.variables, before.variables, areEqual)) {
             std::abort();

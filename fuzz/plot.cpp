@@ -27,7 +27,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
     rapidjson::Document graph(rapidjson::kObjectType);
     Allocator& allocator = graph.GetAllocator();
     rapidjson::Value statements(rapidjson::kArrayType);
-    const std::string text = fuzz::textOf(data, size);
+    const std::string text = fuzz::asText(data, size);
     for (std::size_t begin = 0; begin <= text.size();) {
         const std::size_t end = std::min(text.find('\n', begin), text.size());
         statements.PushBack(rapidjson::Value(text.substr(begin, end - begin), allocator), allocator);

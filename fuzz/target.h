@@ -10,7 +10,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
 namespace fuzz {
 
-inline std::string textOf(const std::uint8_t* data, std::size_t size)
+inline std::string asText(const std::uint8_t* data, std::size_t size)
 {
     return {data, data + size};
 }

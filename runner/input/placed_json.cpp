@@ -39,7 +39,7 @@ std::string reasonFor(rapidjson::ParseErrorCode error)
     return reason;
 }
 
-std::string_view textOf(const PlacedJson::Value& text)
+std::string_view viewOf(const PlacedJson::Value& text)
 {
     return {text.GetString(), text.GetStringLength()};
 }
@@ -75,10 +75,10 @@ std::string PlacedJson::readText(const Place& place, const Value& value) const
     if (!value.IsString()) {
         fail(place, "must be a text in quotes");
     }
-    if (text::firstBadUtf8Byte(textOf(value))) {
+    if (text::firstBadUtf8Byte(viewOf(value))) {
         fail(place, "holds an escaped zero or half a surrogate pair");
     }
-    return std::string(textOf(value));
+    return std::string(viewOf(value));
 }
 
 void PlacedJson::forEachMember(const Place& place, const Value& object,

@@ -134,24 +134,24 @@ class Plots(Runner):
         self.assertEqual((report.count("<svg "), report.count("<circle "), report.count("<table>")), (2, 10, 1))
 
     @staticmethod
-    def points_of(picture):
+    def points_of(drawing):
         """Where the points are, from left to right and from the bottom up."""
-        return sorted((float(x), -float(y)) for x, y in re.findall(r'<circle cx="([\d.]+)" cy="([\d.]+)"', picture))
+        return sorted((float(x), -float(y)) for x, y in re.findall(r'<circle cx="([\d.]+)" cy="([\d.]+)"', drawing))
 
     @staticmethod
-    def lines_of(picture):
+    def lines_of(drawing):
         """Colour and height of each line across the plot, which ends further right than those of legend and axes."""
-        lines = re.findall(r'<path stroke="([^"]+)"[^>]* d="M[\d.]+,([\d.]+) L4\d\d\.\d+,\2 ', picture)
+        lines = re.findall(r'<path stroke="([^"]+)"[^>]* d="M[\d.]+,([\d.]+) L4\d\d\.\d+,\2 ', drawing)
         return [(colour, -float(y)) for colour, y in lines]
 
     @with_gnuplot
     def test_show_what_the_document_says(self):
         self.expect_outputs("x.json", "./", command="VARIABLE=a WITH=b PLOT(RATIO AGREEMENT_LIMITS=CI CI_MEANDIFF)")
         for name, graph in zip(self.NAMES, json.loads(self.read("x.json"))["documents"][0]["objects"]):
-            picture, data = self.read(name), graph["data"]
+            drawing, data = self.read(name), graph["data"]
             levels = [data[level][0] for level in "y2 y1 y3 y5 y4 y6 y8 y7 y9".split()]
             values = [y for _, y in sorted(zip(data["xdata"], data["ydata"]))] + levels
-            heights = [height for _, height in self.points_of(picture) + self.lines_of(picture)]
+            heights = [height for _, height in self.points_of(drawing) + self.lines_of(drawing)]
             # They lie on one scale, and have two decimals.
             self.assertEqual(len(heights), len(values))
             (least, bottom), (largest, top) = min(zip(values, heights)), max(zip(values, heights))

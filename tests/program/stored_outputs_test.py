@@ -1,8 +1,8 @@
 """Holds what the example commands write against stored outputs that a person has reviewed.
 
 Called as stored_outputs_test.py PROGRAM EXAMPLES STORED; with --rewrite after them it writes the stored outputs anew, to
-be reviewed as a change. Every build writes the same bytes. The pictures are those of the version of gnuplot that their
-folder is named after; the report for a browser is stored without pictures, as it is where gnuplot is missing.
+be reviewed as a change. Every build writes the same bytes. The plots are those of the version of gnuplot that their
+folder is named after; the report for a browser is stored without plots, as it is where gnuplot is missing.
 """
 
 import os
@@ -61,8 +61,8 @@ class StoredOutputs(unittest.TestCase):
     def test_texts_data_and_report_are_what_the_program_writes(self):
         self.compare(lambda name: not name.startswith(GNUPLOT))
 
-    @unittest.skipUnless(installed_gnuplot() == GNUPLOT, "the stored pictures are those of " + GNUPLOT)
-    def test_pictures_are_what_the_program_draws(self):
+    @unittest.skipUnless(installed_gnuplot() == GNUPLOT, "the stored plots are those of " + GNUPLOT)
+    def test_plots_are_what_the_program_draws(self):
         self.compare(lambda name: name.startswith(GNUPLOT))
 
 
