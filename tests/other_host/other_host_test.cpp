@@ -145,6 +145,8 @@ TEST(OtherHost, EndsTheCommandWithItsReason)
         EXPECT_THAT(outcome.documents, IsEmpty()) << refusal.call;
     }
     EXPECT_EQ(run(twoColumns, "VARIABLE=a PRONT(DETAILS)").errors, step2);
+    run(twoColumns, "VARIABLE=a WITH=x");
+    EXPECT_THAT(theHost.complaints, ElementsAre("WITH of : there is no x"));
 }
 
 TEST(OtherHost, MayRefuseTheDocument)
