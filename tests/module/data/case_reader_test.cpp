@@ -39,7 +39,7 @@ TEST(CaseReader, GivesNoColumnsForAnEmptyDataSetAndSkipsUnknownIndices)
     }
     tests::TracedSession host("a,b;1,2");
     ProcedureDataSource source;
-    readCaseColumns({7, 1, -1}, source, columns);
+    readCaseColumns({7, 2, 1, -1}, source, columns);
     EXPECT_THAT(columns, ElementsAre(ElementsAre(2)));
 }
 

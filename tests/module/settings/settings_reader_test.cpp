@@ -7,7 +7,6 @@
 
 #include <gmock/gmock.h>
 
-
 namespace {
 
 using testing::EndsWith;
