@@ -1,6 +1,7 @@
-"""Draws small changes to the module at random: draw.py ROOT BUILD COUNT SEED
+"""Draws small changes to the module at random: draw.py ROOT BUILD COUNT SEED [FILES]
 
-Prints them as mutate.py reads them. Each compiles, by the compile commands of BUILD, and no place is changed twice. The
+Of all files, or of those that match FILES, such as "pivot_table.*" where that was rewritten. Prints the changes as
+mutate.py reads them. Each compiles, by the compile commands of BUILD, and no place is changed twice. The
 texts of the languages are left out: digests hold them to the byte.
 """
 
@@ -14,6 +15,7 @@ import tempfile
 
 ROOT, BUILD = (pathlib.Path(argument).resolve() for argument in sys.argv[1:3])
 COUNT, SEED = map(int, sys.argv[3:5])
+FILES = sys.argv[5] if len(sys.argv) > 5 else "*.[ch]*"
 
 # What stands in a line, and what may take its place.
 SWAPS = [
@@ -87,7 +89,7 @@ def compiles(path, text, commands):
 
 
 def main():
-    source = {path: path.read_text(encoding="utf-8").split("\n") for path in sorted((ROOT / "module").rglob("*.[ch]*"))
+    source = {path: path.read_text(encoding="utf-8").split("\n") for path in sorted((ROOT / "module").rglob(FILES))
               if "languages" not in path.parts and path.suffix in {".h", ".cpp"}}
     pool = [(path, *change) for path, lines in source.items() for change in candidates(lines)]
     random.Random(SEED).shuffle(pool)

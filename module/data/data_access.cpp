@@ -8,7 +8,7 @@ namespace bldatman {
 
 namespace {
 
-using QUVO_Variable_Enumerations::MeasurementLevel;
+using MeasurementLevel = QUVO_Variable_Enumerations::MeasurementLevel;
 
 const auto levelNominal = static_cast<MeasurementLevel>(1);
 const auto levelOrdinal = static_cast<MeasurementLevel>(2);

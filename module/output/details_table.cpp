@@ -6,7 +6,6 @@
 #include <array>
 #include <cmath>
 #include <cstdint>
-#include <memory>
 #include <string>
 
 namespace bldatman {
@@ -79,17 +78,17 @@ void addFootnotes(PivotTable& table, const TableInputs& inputs, std::uint64_t ro
     }
 }
 
-std::unique_ptr<Descendants> makeColumns(PivotTable& table, const TableInputs& inputs)
+Descendants& makeColumns(PivotTable& table, const TableInputs& inputs)
 {
     const BldatmanTextCatalogue& catalogue = inputs.catalogue;
     const std::string percentSign = inputs.settings.criteriaSetting().percentage() ? "%" : "";
-    auto columns = table.makeGroup();
-    columns->set_label(" ");
-    columns->setShowLabel(false);
+    Descendants& columns = table.makeGroup();
+    columns.set_label(" ");
+    columns.setShowLabel(false);
     for (const std::string& header :
          {inputs.nameA, inputs.nameB, catalogue.getText("Mean"), catalogue.getText("Difference"),
           catalogue.getText("Difference/Mean") + percentSign}) {
-        table.addHeader(*columns, header);
+        table.addHeader(columns, header);
     }
     return columns;
 }

@@ -6,8 +6,6 @@
 #include "module/texts/labels.h"
 
 #include <array>
-#include <memory>
-#include <utility>
 
 namespace bldatman {
 
@@ -27,42 +25,41 @@ void addBounds(PivotTable& table, Descendants& interval, const BldatmanTextCatal
 }
 
 /// The bias, and a group with the bounds of its interval. The group is made and labelled before its parent is.
-std::unique_ptr<Descendants> makeBiasColumns(PivotTable& table, const TableInputs& inputs)
+Descendants& makeBiasColumns(PivotTable& table, const TableInputs& inputs)
 {
-    auto columns = table.makeGroup();
-    auto interval = table.makeGroup();
-    interval->set_label(confidenceIntervalLabel(inputs.settings.criteriaSetting().ciLevelMeanDiff(), inputs.catalogue));
-    columns->set_label(" ");
-    columns->setShowLabel(false);
-    addBounds(table, *interval, inputs.catalogue);
-    table.addHeader(*columns, inputs.catalogue.getText("Mean Difference"));
-    PivotTable::addGroup(*columns, std::move(interval));
+    Descendants& columns = table.makeGroup();
+    Descendants& interval = table.makeGroup();
+    interval.set_label(confidenceIntervalLabel(inputs.settings.criteriaSetting().ciLevelMeanDiff(), inputs.catalogue));
+    columns.set_label(" ");
+    columns.setShowLabel(false);
+    addBounds(table, interval, inputs.catalogue);
+    table.addHeader(columns, inputs.catalogue.getText("Mean Difference"));
+    table.addGroup(columns, interval);
     return columns;
 }
 
 /// Four groups: each limit, and the bounds of its interval. Their parent is made last and has no label; each label is
 /// set visible once its group has its place.
-std::unique_ptr<Descendants> makeLimitColumns(PivotTable& table, const TableInputs& inputs)
+Descendants& makeLimitColumns(PivotTable& table, const TableInputs& inputs)
 {
     const BldatmanCriteriaSetting& criteria = inputs.settings.criteriaSetting();
     const auto makeLimit = [&](const char* limitKey) {
-        auto group = table.makeGroup();
-        group->set_label(tableLimitLabel(criteria.agreementLimit(), inputs.catalogue));
-        table.addHeader(*group, inputs.catalogue.getText(limitKey));
-        return group;
+        Descendants& group = table.makeGroup();
+        group.set_label(tableLimitLabel(criteria.agreementLimit(), inputs.catalogue));
+        table.addHeader(group, inputs.catalogue.getText(limitKey));
+        return &group;
     };
     const auto makeInterval = [&] {
-        auto group = table.makeGroup();
-        group->set_label(confidenceIntervalLabel(criteria.ciLevelAgreement(), inputs.catalogue));
-        addBounds(table, *group, inputs.catalogue);
-        return group;
+        Descendants& group = table.makeGroup();
+        group.set_label(confidenceIntervalLabel(criteria.ciLevelAgreement(), inputs.catalogue));
+        addBounds(table, group, inputs.catalogue);
+        return &group;
     };
-    std::array groups = {makeLimit("Limit Lower"), makeInterval(), makeLimit("Limit Upper"), makeInterval()};
-    auto columns = table.makeGroup();
-    for (auto& group : groups) {
-        Descendants& placed = *group;
-        PivotTable::addGroup(*columns, std::move(group));
-        placed.setShowLabel(true);
+    const std::array groups = {makeLimit("Limit Lower"), makeInterval(), makeLimit("Limit Upper"), makeInterval()};
+    Descendants& columns = table.makeGroup();
+    for (Descendants* group : groups) {
+        table.addGroup(columns, *group);
+        group->setShowLabel(true);
     }
     return columns;
 }

@@ -1,5 +1,6 @@
 #include "module/output/pivot_table.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace bldatman {
@@ -14,12 +15,13 @@ constexpr int maxColumnWidth = 300;
 constexpr short cellWidth = 10;
 constexpr short cellDecimals = 3;
 
-/// Hands a child over to its group; the group owns it once `addCell` has returned.
-template <class Child>
-void handOver(Descendants& group, std::unique_ptr<Child> child)
+/// Gives up what now has another owner.
+template <class Part>
+void disown(std::vector<std::unique_ptr<Part>>& parts, const Part& part)
 {
-    group.addCell(child.get());
-    (void)child.release();
+    const auto owner = std::ranges::find(parts, &part, &std::unique_ptr<Part>::get);
+    (void)owner->release();
+    parts.erase(owner);
 }
 
 }  // namespace
@@ -56,26 +58,31 @@ void PivotTable::referToFootnote()
     table_->addFootnoteRefs(footnoteCount_);
 }
 
-std::unique_ptr<Descendants> PivotTable::makeGroup()
+Descendants& PivotTable::makeGroup()
 {
-    return std::make_unique<Descendants>(table_.get());
+    std::unique_ptr<Descendants>& group = groups_.emplace_back();
+    group = std::make_unique<Descendants>(table_.get());
+    return *group;
 }
 
 void PivotTable::addHeader(Descendants& group, const std::string& text)
 {
-    handOver(group, makeCell(text));
+    Cell& cell = makeCell(text);
+    group.addCell(&cell);
+    disown(looseCells_, cell);
 }
 
-void PivotTable::addGroup(Descendants& parent, std::unique_ptr<Descendants> child)
+void PivotTable::addGroup(Descendants& parent, Descendants& child)
 {
-    handOver(parent, std::move(child));
+    parent.addCell(&child);
+    disown(groups_, child);
 }
 
-void PivotTable::beginBody(std::unique_ptr<Descendants> columns)
+void PivotTable::beginBody(Descendants& columns)
 {
-    columns_ = std::move(columns);
+    columns_ = &columns;
     cells_ = std::make_unique<Cells>(table_.get());
-    rows_ = makeGroup();
+    rows_ = &makeGroup();
 }
 
 void PivotTable::setRowsLabel(const std::string& label)
@@ -85,15 +92,13 @@ void PivotTable::setRowsLabel(const std::string& label)
 
 void PivotTable::addRow(std::initializer_list<CellValue> values)
 {
-    std::vector<std::unique_ptr<Cell>> owners;
     std::vector<Cell*> row;
     for (const CellValue& value : values) {
-        owners.push_back(makeCell(value));
-        row.push_back(owners.back().get());
+        row.push_back(&makeCell(value));
     }
     cells_->addCells(row);
-    for (std::unique_ptr<Cell>& owner : owners) {
-        (void)owner.release();
+    for (const Cell* cell : row) {
+        disown(looseCells_, *cell);
     }
 }
 
@@ -104,9 +109,9 @@ void PivotTable::addRowLabel(const std::string& text)
 
 void PivotTable::emit()
 {
-    dimension_ = std::make_unique<Dimension>(table_.get(), rows_.get(), columns_.get());
-    (void)rows_.release();
-    (void)columns_.release();
+    dimension_ = std::make_unique<Dimension>(table_.get(), rows_, columns_);
+    disown(groups_, *rows_);
+    disown(groups_, *columns_);
     table_->set_dimensions(dimension_.get());
     table_->set_cells(cells_.get());
     table_->addTableToProcedureJSON();
@@ -117,16 +122,17 @@ void PivotTable::release()
 {
     table_.reset();
     dimension_.reset();
-    rows_.reset();
-    columns_.reset();
+    groups_.clear();
+    looseCells_.clear();
     cells_.reset();
 }
 
-std::unique_ptr<Cell> PivotTable::makeCell(const CellValue& value)
+Cell& PivotTable::makeCell(const CellValue& value)
 {
-    auto cell = std::make_unique<Cell>(table_.get(), cellType1);
+    std::unique_ptr<Cell>& cell = looseCells_.emplace_back();
+    cell = std::make_unique<Cell>(table_.get(), cellType1);
     std::visit([&cell](const auto& content) { cell->setValue(content); }, value);
-    return cell;
+    return *cell;
 }
 
 }  // namespace bldatman

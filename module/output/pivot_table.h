@@ -17,7 +17,9 @@ namespace bldatman {
 /// What a body cell shows.
 using CellValue = std::variant<double, std::string>;
 
-/// Owns every host object until it is handed over, so that an error at any host call leaks nothing.
+/// Owns every host object until it is handed over, so that an error at any host call leaks nothing, and releases what
+/// it owns in one order, whether an error ends the table or its last call: the table, the dimension, what was still to
+/// be placed, the body.
 class PivotTable {
 public:
     /// A table with its title and column widths set.
@@ -36,12 +38,13 @@ public:
     /// Refers to the footnote that would be added next, and adds none.
     void referToFootnote();
 
-    std::unique_ptr<Descendants> makeGroup();
+    /// A group of headers that has no place yet.
+    Descendants& makeGroup();
     void addHeader(Descendants& group, const std::string& text);
-    static void addGroup(Descendants& parent, std::unique_ptr<Descendants> child);
+    void addGroup(Descendants& parent, Descendants& child);
 
-    /// Takes the finished column headers and begins the body and the row headers.
-    void beginBody(std::unique_ptr<Descendants> columns);
+    /// Keeps the finished column headers and begins the body and the row headers.
+    void beginBody(Descendants& columns);
 
     /// The row headers' own label; without a call they have none.
     void setRowsLabel(const std::string& label);
@@ -53,18 +56,17 @@ public:
     void emit();
 
 private:
-    std::unique_ptr<Cell> makeCell(const CellValue& value);
-
-    /// After an error as in the good case: the table, then the dimension or what would have become its own, then the
-    /// body.
+    Cell& makeCell(const CellValue& value);
     void release();
 
     std::string internalName_;  ///< the host may refer to it for as long as the table lives
     std::unique_ptr<Table> table_;
-    std::unique_ptr<Descendants> columns_;
-    std::unique_ptr<Cells> cells_;
-    std::unique_ptr<Descendants> rows_;
     std::unique_ptr<Dimension> dimension_;
+    std::vector<std::unique_ptr<Descendants>> groups_;  ///< those that no other group or dimension owns yet
+    std::vector<std::unique_ptr<Cell>> looseCells_;     ///< those that no group or body owns yet
+    std::unique_ptr<Cells> cells_;
+    Descendants* columns_ = nullptr;
+    Descendants* rows_ = nullptr;
     int footnoteCount_ = 0;
 };
 

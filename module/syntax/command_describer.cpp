@@ -10,7 +10,7 @@ namespace bldatman {
 
 namespace {
 
-using UPSpecTypes::ParamSpec;
+using ParamSpec = UPSpecTypes::ParamSpec;
 
 // What is agreed with the host are the integers. A kind of value is called after what it is used for here; of the
 // others the meaning is the host's, and the name says the number.

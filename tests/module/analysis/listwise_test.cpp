@@ -35,15 +35,6 @@ void removeLiterally(Columns& first, Columns& second)
     }
 }
 
-TEST(Listwise, RemovesACaseThatIsMissingInAnyPairFromAllOfThem)
-{
-    Columns first = {{1, 2, 3, 4}, {11, 12, notANumber, 14}};
-    Columns second = {{5, missing, 7, 8}, {15, 16, 17, 18}};
-    removeMissingCases(first, second);
-    EXPECT_THAT(first, ElementsAre(ElementsAre(1, 4), ElementsAre(11, 14)));
-    EXPECT_THAT(second, ElementsAre(ElementsAre(5, 8), ElementsAre(15, 18)));
-}
-
 TEST(Listwise, LeavesColumnsOfTheSecondListBeyondTheFirstAlone)
 {
     Columns first = {{1, missing, 3}};

@@ -19,6 +19,7 @@ TEST(AlgorithmVarList, RefusesEmptyAndDuplicateNames)
     ASSERT_EQ(list.entries().size(), 3U);
     EXPECT_EQ(list.findVariable("X"), 2);
     EXPECT_EQ(list.entries()[0].label, "label");
+    EXPECT_EQ(list.entries()[0].categoryCount, 0U);
     EXPECT_EQ(list.entries()[1].kind, kindNominal);
     EXPECT_EQ(list.entries()[2].kind, kindOrdinal);
 }

@@ -47,9 +47,11 @@ TEST(SettingsReader, KnowsNoOtherSubcommand)
     const tests::CapturedErrors errors;
     EXPECT_EQ(settings.getSubcommand(4), 1);
     EXPECT_EQ(settings.getSubcommand(-1), 1);
-    EXPECT_EQ(settings.start(), 1) << "the leading subcommand was not given";
+    EXPECT_EQ(settings.getSubcommand(0), 1) << "the leading subcommand was not given";
+    EXPECT_EQ(settings.start(), 1);
     EXPECT_EQ(errors.text(),
               "Error: Unknown sub-command : 4\nError: Unknown sub-command : -1\n"
+              "Error: get_Subcommand_Global sub-command : \n"
               "Error: get_Subcommand_Global sub-command : \n"
               "BldatmanInputSetting::start: Standard exception: Error encountered while syntax parsing.\n");
 }
