@@ -1,8 +1,8 @@
 // The statements of a graph, one to a line, through the drawing up to what gnuplot is told.
-#include "report/plots/plot.h"
 #include "fuzz/target.h"
 #include "report/drawing/gnuplot_script.h"
 #include "report/plots/plot_error.h"
+#include "report/plots/plot_reader.h"
 
 #include <rapidjson/document.h>
 

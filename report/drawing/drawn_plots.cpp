@@ -4,8 +4,8 @@
 #include "report/drawing/gnuplot.h"
 #include "report/drawing/gnuplot_script.h"
 #include "report/drawing/svg_rewriting.h"
-#include "report/plots/plot.h"
 #include "report/plots/plot_error.h"
+#include "report/plots/plot_reader.h"
 #include "text/wording.h"
 
 #include <string>

@@ -1,4 +1,4 @@
-// One statement of a graph, read into a tree.
+// One statement of a graph, read into a tree. What statements mean is the plot reader's affair.
 //
 //     statement  = kind ":" [ variable "=" ] expression
 //     expression = call | product | name | number | text

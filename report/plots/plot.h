@@ -1,7 +1,5 @@
-// The plot of a graph, as its statements and its columns say.
+// What a plot shows.
 #pragma once
-
-#include <rapidjson/document.h>
 
 #include <cstddef>
 #include <string>
@@ -32,9 +30,5 @@ struct Plot {
     std::vector<PointLayer> points;
     std::vector<LineLayer> lines;  ///< in the order in which they are drawn
 };
-
-/// @param graph  a graph object of a document
-/// @throws PlotError  when a statement cannot be followed; says which one and why
-Plot readPlot(const rapidjson::Value& graph);
 
 }  // namespace report

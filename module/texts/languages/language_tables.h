@@ -1,4 +1,5 @@
 // The texts of the output, one table per language, one file per table: a place for translators.
+// Each is entered under its code in text_catalogue.cpp.
 #pragma once
 
 #include <array>

@@ -4,7 +4,7 @@
 #include "report/formats/render_html.h"
 #include "report/formats/render_json.h"
 #include "report/formats/render_text.h"
-#include "report/plots/plot.h"
+#include "report/plots/plot_reader.h"
 #include "tests/support/command_run.h"
 
 #include <gmock/gmock.h>

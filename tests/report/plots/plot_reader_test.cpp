@@ -1,4 +1,4 @@
-#include "report/plots/plot.h"
+#include "report/plots/plot_reader.h"
 
 #include "report/plots/plot_error.h"
 #include "tests/report/documents.h"

@@ -1,4 +1,4 @@
-#include "report/plots/plot.h"
+#include "report/plots/plot_reader.h"
 
 #include "report/document/document_view.h"
 #include "report/plots/gpl_statement.h"
