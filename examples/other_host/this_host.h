@@ -104,7 +104,7 @@ inline std::string upperCase(std::string text)
 class Object {
 public:
     Object() = default;
-    Object(const Object& original) { name = original.name; }
+    Object(const Object& original) { name.assign(original.name); }
     virtual ~Object()
     {
         if (!type_.empty()) {
@@ -133,6 +133,4 @@ private:
 
 }  // namespace other
 
-using other::call;
-using other::lookUp;
-using other::theHost;
+using other::call, other::lookUp, other::theHost;

@@ -17,16 +17,16 @@ struct QUVO_ValueLabelMap {
     unsigned Size() { return 0; }
 };
 
-struct QUVO_Variable {
-    explicit QUVO_Variable(const other::Variable& described) { name = described.name, level = described.level; }
+struct QUVO_Variable : other::Variable {
+    explicit QUVO_Variable(const other::Variable& described)
+        : Variable(described)
+    {
+    }
 
     auto GetMeasurementLevel() { return call("QUVO_Variable::GetMeasurementLevel"), MeasurementLevel{level}; }
     char* GetName() { return call("QUVO_Variable::GetName"), name.data(); }
     char* GetLabel() { return call("QUVO_Variable::GetLabel") ? name.data() : nullptr; }
     QUVO_VLImplPointer GetValueLabels() { return {}; }
-
-    std::string name;
-    short level = 0;
 };
 
 /// A name as it passes between parser and validator.
