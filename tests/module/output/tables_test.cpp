@@ -61,7 +61,7 @@ TEST(Output, MakesLabelsOnRequestAndIsAsEmptyAsItsRecords)
     EXPECT_EQ(output.makeAgreementLimitLabel(), "95.00% Agreement Limit");
     EXPECT_EQ(output.generate(), 1);
     EXPECT_TRUE(host.session.documents.empty());
-    results.emplace_back();  // a pair without cases
+    results.push_back({});  // a pair without cases
     EXPECT_EQ(output.generate(), 0);
     EXPECT_EQ(json(host.object(0)["data"]["xMinMax"]), "[0.0,0.0]");
 }
