@@ -38,9 +38,9 @@ struct ACAVarValidSpecs : other::Object {
 
 /// Both arguments outlive it.
 struct ACAInputAdapter : other::Object {
-    ACAInputAdapter(ACAVarValidSpecs& declared, ProcedureDataSource&) { begin("ACAInputAdapter"), specs = &declared; }
+    ACAInputAdapter(ACAVarValidSpecs& declared, ProcedureDataSource&) { begin("ACAInputAdapter"), kept = &declared; }
 
-    ACAVarValidSpecs* specs = nullptr;
+    ACAVarValidSpecs* kept = nullptr;
 };
 
 /// The adapter outlives it.
@@ -53,7 +53,7 @@ struct ACAProcDataSourceIter : virtual RecKit::RecordIterator {
     RecKit::Record* Next() override
     {
         const std::vector<double>& row = theHost.cases[next++];
-        std::vector<std::size_t> positions = adapter->specs->positions;
+        std::vector<std::size_t> positions = adapter->kept->positions;
         positions.push_back(theHost.variables.size());
         record.values.clear();
         for (const std::size_t position : positions) {

@@ -35,9 +35,9 @@ struct ParserMessage : other::Object {
 /// One parameter or qualifier; kind 16 is a list of variables. This host checks that keywords and their values are
 /// known, and no more: the other kinds, the flags and the options mean nothing to it.
 struct ParamDescriptor : other::Object {
-    ParamDescriptor(std::string parameter, UPSpecTypes::ParamSpec spec, bool first, bool second, int brackets)
+    ParamDescriptor(std::string parameter, UPSpecTypes::ParamSpec valueKind, bool first, bool second, int brackets)
     {
-        begin("ParamDescriptor", name = parameter, kind = spec, first, second, brackets);
+        begin("ParamDescriptor", name = parameter, kind = valueKind, first, second, brackets);
     }
 
     void setParamRequired(bool required) { call("ParamDescriptor::setParamRequired", required); }
